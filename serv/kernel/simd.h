@@ -1,0 +1,123 @@
+// The SIMD vocabulary: one 16-byte register of doubles or singles, and a one-element twin of each with the
+// same words, so that a loop body is written once for its vector middle and its scalar edges.
+//   load, store     16-byte boundary required (one-element twins: none)
+//   loadu, storeu   any address
+//   low             one element into the first lane, zero elsewhere
+//   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
+#pragma once
+
+#include <pmmintrin.h>
+#include <stdint.h>
+
+#include "serv/kernel/boundary.h"
+
+namespace orb {
+
+struct f64x2 {
+  using scalar = double;
+  static constexpr int lanes = 2;
+  __m128d v;
+
+  static ORB_INLINE f64x2 zero() { return {_mm_setzero_pd()}; }
+  static ORB_INLINE f64x2 splat(double a) { return {_mm_set1_pd(a)}; }
+  static ORB_INLINE f64x2 load(const double* p) { return {_mm_load_pd(p)}; }
+  static ORB_INLINE f64x2 loadu(const double* p) { return {_mm_loadu_pd(p)}; }
+  static ORB_INLINE f64x2 low(const double* p) { return {_mm_load_sd(p)}; }
+  ORB_INLINE void store(double* p) const { _mm_store_pd(p, v); }
+  ORB_INLINE void storeu(double* p) const { _mm_storeu_pd(p, v); }
+  ORB_INLINE double first() const { return _mm_cvtsd_f64(v); }
+  ORB_INLINE double sum() const { return first() + _mm_cvtsd_f64(_mm_unpackhi_pd(v, v)); }
+  ORB_INLINE f64x2 swap_halves() const { return {_mm_shuffle_pd(v, v, 1)}; }
+  // (a0 - b0, a1 + b1)
+  static ORB_INLINE f64x2 addsub(f64x2 a, f64x2 b) { return {_mm_addsub_pd(a.v, b.v)}; }
+  ORB_INLINE f64x2 abs() const {
+    return {_mm_castsi128_pd(_mm_and_si128(_mm_castpd_si128(v), _mm_srli_epi64(_mm_set1_epi32(-1), 1)))};
+  }
+
+  friend ORB_INLINE f64x2 operator+(f64x2 a, f64x2 b) { return {_mm_add_pd(a.v, b.v)}; }
+  friend ORB_INLINE f64x2 operator-(f64x2 a, f64x2 b) { return {_mm_sub_pd(a.v, b.v)}; }
+  friend ORB_INLINE f64x2 operator*(f64x2 a, f64x2 b) { return {_mm_mul_pd(a.v, b.v)}; }
+  ORB_INLINE f64x2& operator+=(f64x2 b) { return *this = *this + b; }
+};
+
+struct f32x4 {
+  using scalar = float;
+  static constexpr int lanes = 4;
+  __m128 v;
+
+  static ORB_INLINE f32x4 zero() { return {_mm_setzero_ps()}; }
+  static ORB_INLINE f32x4 splat(float a) { return {_mm_set1_ps(a)}; }
+  static ORB_INLINE f32x4 load(const float* p) { return {_mm_load_ps(p)}; }
+  static ORB_INLINE f32x4 loadu(const float* p) { return {_mm_loadu_ps(p)}; }
+  static ORB_INLINE f32x4 low(const float* p) { return {_mm_load_ss(p)}; }
+  ORB_INLINE void store(float* p) const { _mm_store_ps(p, v); }
+  ORB_INLINE void storeu(float* p) const { _mm_storeu_ps(p, v); }
+  ORB_INLINE float first() const { return _mm_cvtss_f32(v); }
+  ORB_INLINE float sum() const {
+    const __m128 pair = _mm_add_ps(v, _mm_movehl_ps(v, v));  // l0 + l2, l1 + l3
+    return _mm_cvtss_f32(_mm_add_ss(pair, _mm_shuffle_ps(pair, pair, 1)));
+  }
+  // exchanges the two lanes of each complex pair
+  ORB_INLINE f32x4 swap_pairs() const { return {_mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1))}; }
+  // (a0 - b0, a1 + b1, a2 - b2, a3 + b3)
+  static ORB_INLINE f32x4 addsub(f32x4 a, f32x4 b) { return {_mm_addsub_ps(a.v, b.v)}; }
+  ORB_INLINE f32x4 abs() const {
+    return {_mm_castsi128_ps(_mm_and_si128(_mm_castps_si128(v), _mm_srli_epi32(_mm_set1_epi32(-1), 1)))};
+  }
+
+  friend ORB_INLINE f32x4 operator+(f32x4 a, f32x4 b) { return {_mm_add_ps(a.v, b.v)}; }
+  friend ORB_INLINE f32x4 operator-(f32x4 a, f32x4 b) { return {_mm_sub_ps(a.v, b.v)}; }
+  friend ORB_INLINE f32x4 operator*(f32x4 a, f32x4 b) { return {_mm_mul_ps(a.v, b.v)}; }
+  ORB_INLINE f32x4& operator+=(f32x4 b) { return *this = *this + b; }
+};
+
+// One element under the same words.
+template <class T>
+struct Lane {
+  using scalar = T;
+  static constexpr int lanes = 1;
+  T v;
+
+  static ORB_INLINE Lane zero() { return {0}; }
+  static ORB_INLINE Lane splat(T a) { return {a}; }
+  static ORB_INLINE Lane load(const T* p) { return {*p}; }
+  static ORB_INLINE Lane loadu(const T* p) { return {*p}; }
+  ORB_INLINE void store(T* p) const { *p = v; }
+  ORB_INLINE void storeu(T* p) const { *p = v; }
+  ORB_INLINE T sum() const { return v; }
+
+  friend ORB_INLINE Lane operator+(Lane a, Lane b) { return {a.v + b.v}; }
+  friend ORB_INLINE Lane operator-(Lane a, Lane b) { return {a.v - b.v}; }
+  friend ORB_INLINE Lane operator*(Lane a, Lane b) { return {a.v * b.v}; }
+  ORB_INLINE Lane& operator+=(Lane b) { return *this = *this + b; }
+};
+
+template <class T>
+struct VectorOf;
+template <>
+struct VectorOf<double> {
+  using type = f64x2;
+};
+template <>
+struct VectorOf<float> {
+  using type = f32x4;
+};
+// The full register for elements of type T.
+template <class T>
+using vector_of = typename VectorOf<T>::type;
+
+ORB_INLINE bool is_aligned(const void* p) { return (reinterpret_cast<uintptr_t>(p) & 15) == 0; }
+
+// Do both addresses stand at the same place within 16 bytes?
+ORB_INLINE bool same_alignment(const void* p, const void* q) {
+  return ((reinterpret_cast<uintptr_t>(p) ^ reinterpret_cast<uintptr_t>(q)) & 15) == 0;
+}
+
+// Elements from p to the next 16-byte boundary (0 if p is on one), or -1 if none of p's elements is on one.
+template <class T>
+ORB_INLINE int elements_to_boundary(const T* p) {
+  const unsigned bytes = -reinterpret_cast<uintptr_t>(p) & 15;
+  return bytes % sizeof(T) == 0 ? int(bytes / sizeof(T)) : -1;
+}
+
+}  // namespace orb
