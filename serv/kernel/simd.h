@@ -3,6 +3,7 @@
 //   load, store     16-byte boundary required (one-element twins: none)
 //   loadu, storeu   any address
 //   low             one element into the first lane, zero elsewhere
+//   gather          elements `step` apart, first element into the first lane
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
 #pragma once
 
@@ -23,6 +24,7 @@ struct f64x2 {
   static ORB_INLINE f64x2 load(const double* p) { return {_mm_load_pd(p)}; }
   static ORB_INLINE f64x2 loadu(const double* p) { return {_mm_loadu_pd(p)}; }
   static ORB_INLINE f64x2 low(const double* p) { return {_mm_load_sd(p)}; }
+  static ORB_INLINE f64x2 gather(const double* p, int step) { return {_mm_set_pd(p[step], p[0])}; }
   ORB_INLINE void store(double* p) const { _mm_store_pd(p, v); }
   ORB_INLINE void storeu(double* p) const { _mm_storeu_pd(p, v); }
   ORB_INLINE double first() const { return _mm_cvtsd_f64(v); }
@@ -50,6 +52,9 @@ struct f32x4 {
   static ORB_INLINE f32x4 load(const float* p) { return {_mm_load_ps(p)}; }
   static ORB_INLINE f32x4 loadu(const float* p) { return {_mm_loadu_ps(p)}; }
   static ORB_INLINE f32x4 low(const float* p) { return {_mm_load_ss(p)}; }
+  static ORB_INLINE f32x4 gather(const float* p, int step) {
+    return {_mm_set_ps(p[3 * step], p[2 * step], p[step], p[0])};
+  }
   ORB_INLINE void store(float* p) const { _mm_store_ps(p, v); }
   ORB_INLINE void storeu(float* p) const { _mm_storeu_ps(p, v); }
   ORB_INLINE float first() const { return _mm_cvtss_f32(v); }
@@ -69,6 +74,26 @@ struct f32x4 {
   friend ORB_INLINE f32x4 operator-(f32x4 a, f32x4 b) { return {_mm_sub_ps(a.v, b.v)}; }
   friend ORB_INLINE f32x4 operator*(f32x4 a, f32x4 b) { return {_mm_mul_ps(a.v, b.v)}; }
   ORB_INLINE f32x4& operator+=(f32x4 b) { return *this = *this + b; }
+};
+
+// Two singles, for edges: the upper half of the register repeats the lower, so it raises no exceptions of its
+// own.
+struct f32x2 {
+  using scalar = float;
+  static constexpr int lanes = 2;
+  __m128 v;
+
+  static ORB_INLINE f32x2 zero() { return {_mm_setzero_ps()}; }
+  static ORB_INLINE f32x2 splat(float a) { return {_mm_set1_ps(a)}; }
+  static ORB_INLINE f32x2 loadu(const float* p) {
+    const __m128 low = _mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64*>(p));
+    return {_mm_movelh_ps(low, low)};
+  }
+  ORB_INLINE void storeu(float* p) const { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
+
+  friend ORB_INLINE f32x2 operator+(f32x2 a, f32x2 b) { return {_mm_add_ps(a.v, b.v)}; }
+  friend ORB_INLINE f32x2 operator*(f32x2 a, f32x2 b) { return {_mm_mul_ps(a.v, b.v)}; }
+  ORB_INLINE f32x2& operator+=(f32x2 b) { return *this = *this + b; }
 };
 
 // One element under the same words.
