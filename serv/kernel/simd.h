@@ -29,6 +29,9 @@ struct f64x2 {
   ORB_INLINE void storeu(double* p) const { _mm_storeu_pd(p, v); }
   ORB_INLINE double first() const { return _mm_cvtsd_f64(v); }
   ORB_INLINE double sum() const { return first() + _mm_cvtsd_f64(_mm_unpackhi_pd(v, v)); }
+  // (a0, b0) and (a1, b1)
+  static ORB_INLINE f64x2 low_halves(f64x2 a, f64x2 b) { return {_mm_unpacklo_pd(a.v, b.v)}; }
+  static ORB_INLINE f64x2 high_halves(f64x2 a, f64x2 b) { return {_mm_unpackhi_pd(a.v, b.v)}; }
   ORB_INLINE f64x2 swap_halves() const { return {_mm_shuffle_pd(v, v, 1)}; }
   // (a0 - b0, a1 + b1)
   static ORB_INLINE f64x2 addsub(f64x2 a, f64x2 b) { return {_mm_addsub_pd(a.v, b.v)}; }
@@ -75,6 +78,13 @@ struct f32x4 {
   friend ORB_INLINE f32x4 operator*(f32x4 a, f32x4 b) { return {_mm_mul_ps(a.v, b.v)}; }
   ORB_INLINE f32x4& operator+=(f32x4 b) { return *this = *this + b; }
 };
+
+// Holds four running sums in registers here. A compiler that sees many rounds of straight code hoists their
+// loads and pushes the sums to the stack instead.
+template <class V>
+ORB_INLINE void keep_in_registers(V (&sum)[4]) {
+  asm volatile("" : "+x"(sum[0].v), "+x"(sum[1].v), "+x"(sum[2].v), "+x"(sum[3].v));
+}
 
 // Two singles, for edges: the upper half of the register repeats the lower, so it raises no exceptions of its
 // own.
