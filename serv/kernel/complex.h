@@ -42,10 +42,8 @@ template <Complex C>
 ORB_INLINE C operator*(C a, C b) {
   return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
 }
-template <Complex C>
-ORB_INLINE C operator*(real_of<C> a, C b) {
-  return {a * b.re, a * b.im};
-}
+ORB_INLINE c32 operator*(float a, c32 b) { return {a * b.re, a * b.im}; }
+ORB_INLINE c64 operator*(double a, c64 b) { return {a * b.re, a * b.im}; }
 template <Complex C>
 ORB_INLINE C& operator+=(C& a, C b) {
   return a = a + b;

@@ -37,21 +37,38 @@ ORB_INLINE T* strided_start(T* x, int n, int inc) {
   return inc < 0 ? x + (1 - n) * inc : x;
 }
 
-// The shape of the plain compiled loops: below nine elements by scalars; otherwise up to the first 16-byte
+// The shape of the hand-scheduled loops over elements of type T: `peel` elements one by one, then blocks of
+// eight registers as long as they last, at most one block each of four, two and one, and the rest one by one.
+// step.template operator()<V>(k, i) handles V::lanes elements from i, the k-th register of its block (k is an
+// Int; 0 for single elements). Peeled right, full registers stand on 16-byte boundaries.
+template <class T, class Step>
+ORB_INLINE void register_loop(int n, int peel, Step step) {
+  using V = vector_of<T>;
+  using One = one_of<T>;
+  constexpr int w = V::lanes;
+  int i = 0;
+  for (; i < peel && i < n; ++i) step.template operator()<One>(Int<0>{}, i);
+  i = ladder<8 * w, 4 * w, 2 * w, w>(i, n, [&](auto width, int at) {
+    unroll<width / w>([&](auto k) { step.template operator()<V>(k, at + k * w); });
+  });
+  for (; i < n; ++i) step.template operator()<One>(Int<0>{}, i);
+}
+
+// The shape of the plain compiled loops: below `least` elements by scalars; otherwise up to the first 16-byte
 // boundary of `lead` by scalars, eight elements a round, and a scalar rest. A `lead` that meets no boundary
 // leaves all to the scalar loop. step.template operator()<V>(i) handles V::lanes elements from i; `lead` may
 // be loaded aligned in it when V is the full register.
 template <class T, class Step>
-ORB_INLINE void compiled_loop(int n, const T* lead, Step step) {
+ORB_INLINE void compiled_loop(int n, const T* lead, Step step, int least = 9) {
   using V = vector_of<T>;
   int i = 0;
   const int peel = elements_to_boundary(lead);
-  if (n >= 9 && peel >= 0) {
-    for (; i < peel; ++i) step.template operator()<Lane<T>>(i);
+  if (n >= least && peel >= 0) {
+    for (; i < peel; ++i) step.template operator()<one_of<T>>(i);
     for (; n - i >= 8; i += 8)
       unroll<8 / V::lanes>([&](auto k) { step.template operator()<V>(i + k * V::lanes); });
   }
-  for (; i < n; ++i) step.template operator()<Lane<T>>(i);
+  for (; i < n; ++i) step.template operator()<one_of<T>>(i);
 }
 
 }  // namespace orb

@@ -4,11 +4,17 @@
 //   loadu, storeu   any address
 //   low             one element into the first lane, zero elsewhere
 //   gather          elements `step` apart, first element into the first lane
+//   pair            two values in the first lanes, zero elsewhere; load_pair, store_pair: at any address
+//   add_low         a scalar added to the first lane, the others as they were
+//   widen           singles from any address as doubles
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
+//   not_le          lanes of ones where !(a <= b), as for NaN; zeros elsewhere; any() asks for a set lane
 #pragma once
 
 #include <pmmintrin.h>
 #include <stdint.h>
+
+#include <cmath>
 
 #include "serv/kernel/boundary.h"
 
@@ -25,19 +31,33 @@ struct f64x2 {
   static ORB_INLINE f64x2 loadu(const double* p) { return {_mm_loadu_pd(p)}; }
   static ORB_INLINE f64x2 low(const double* p) { return {_mm_load_sd(p)}; }
   static ORB_INLINE f64x2 gather(const double* p, int step) { return {_mm_set_pd(p[step], p[0])}; }
+  static ORB_INLINE f64x2 pair(double a, double b) { return {_mm_setr_pd(a, b)}; }
+  static ORB_INLINE f64x2 load_pair(const double* p) { return loadu(p); }
+  ORB_INLINE void store_pair(double* p) const { storeu(p); }
+  static ORB_INLINE f64x2 widen(const float* p) {
+    return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
+  }
   ORB_INLINE void store(double* p) const { _mm_store_pd(p, v); }
   ORB_INLINE void storeu(double* p) const { _mm_storeu_pd(p, v); }
   ORB_INLINE double first() const { return _mm_cvtsd_f64(v); }
+  ORB_INLINE void add_low(double a) { v = _mm_add_sd(v, _mm_set_sd(a)); }
   ORB_INLINE double sum() const { return first() + _mm_cvtsd_f64(_mm_unpackhi_pd(v, v)); }
   // (a0, b0) and (a1, b1)
   static ORB_INLINE f64x2 low_halves(f64x2 a, f64x2 b) { return {_mm_unpacklo_pd(a.v, b.v)}; }
   static ORB_INLINE f64x2 high_halves(f64x2 a, f64x2 b) { return {_mm_unpackhi_pd(a.v, b.v)}; }
   ORB_INLINE f64x2 swap_halves() const { return {_mm_shuffle_pd(v, v, 1)}; }
+  // (a0, b0) and (a1, b1)
+  static ORB_INLINE f64x2 even(f64x2 a, f64x2 b) { return {_mm_unpacklo_pd(a.v, b.v)}; }
+  static ORB_INLINE f64x2 odd(f64x2 a, f64x2 b) { return {_mm_unpackhi_pd(a.v, b.v)}; }
   // (a0 - b0, a1 + b1)
   static ORB_INLINE f64x2 addsub(f64x2 a, f64x2 b) { return {_mm_addsub_pd(a.v, b.v)}; }
   ORB_INLINE f64x2 abs() const {
     return {_mm_castsi128_pd(_mm_and_si128(_mm_castpd_si128(v), _mm_srli_epi64(_mm_set1_epi32(-1), 1)))};
   }
+
+  static ORB_INLINE f64x2 not_le(f64x2 a, f64x2 b) { return {_mm_cmpnle_pd(a.v, b.v)}; }
+  ORB_INLINE bool any() const { return _mm_movemask_pd(v) != 0; }
+  friend ORB_INLINE f64x2 operator|(f64x2 a, f64x2 b) { return {_mm_or_pd(a.v, b.v)}; }
 
   friend ORB_INLINE f64x2 operator+(f64x2 a, f64x2 b) { return {_mm_add_pd(a.v, b.v)}; }
   friend ORB_INLINE f64x2 operator-(f64x2 a, f64x2 b) { return {_mm_sub_pd(a.v, b.v)}; }
@@ -58,20 +78,42 @@ struct f32x4 {
   static ORB_INLINE f32x4 gather(const float* p, int step) {
     return {_mm_set_ps(p[3 * step], p[2 * step], p[step], p[0])};
   }
+  static ORB_INLINE f32x4 pair(float a, float b) { return {_mm_setr_ps(a, b, 0, 0)}; }
+  static ORB_INLINE f32x4 load_pair(const float* p) {
+    return {_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
+  }
+  ORB_INLINE void store_pair(float* p) const { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
   ORB_INLINE void store(float* p) const { _mm_store_ps(p, v); }
   ORB_INLINE void storeu(float* p) const { _mm_storeu_ps(p, v); }
   ORB_INLINE float first() const { return _mm_cvtss_f32(v); }
+  ORB_INLINE void add_low(float a) { v = _mm_add_ss(v, _mm_set_ss(a)); }
+  // (l0 + l2, l1 + l3, ...)
+  ORB_INLINE f32x4 sum_pairs() const { return {_mm_add_ps(v, _mm_movehl_ps(v, v))}; }
   ORB_INLINE float sum() const {
-    const __m128 pair = _mm_add_ps(v, _mm_movehl_ps(v, v));  // l0 + l2, l1 + l3
+    const __m128 pair = sum_pairs().v;
     return _mm_cvtss_f32(_mm_add_ss(pair, _mm_shuffle_ps(pair, pair, 1)));
   }
+  // the first and the last two lanes as doubles
+  ORB_INLINE f64x2 widen_first() const { return {_mm_cvtps_pd(v)}; }
+  ORB_INLINE f64x2 widen_last() const { return {_mm_cvtps_pd(_mm_movehl_ps(v, v))}; }
   // exchanges the two lanes of each complex pair
   ORB_INLINE f32x4 swap_pairs() const { return {_mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1))}; }
+  // (a0, a2, b0, b2) and (a1, a3, b1, b3)
+  static ORB_INLINE f32x4 even(f32x4 a, f32x4 b) {
+    return {_mm_shuffle_ps(a.v, b.v, _MM_SHUFFLE(2, 0, 2, 0))};
+  }
+  static ORB_INLINE f32x4 odd(f32x4 a, f32x4 b) {
+    return {_mm_shuffle_ps(a.v, b.v, _MM_SHUFFLE(3, 1, 3, 1))};
+  }
   // (a0 - b0, a1 + b1, a2 - b2, a3 + b3)
   static ORB_INLINE f32x4 addsub(f32x4 a, f32x4 b) { return {_mm_addsub_ps(a.v, b.v)}; }
   ORB_INLINE f32x4 abs() const {
     return {_mm_castsi128_ps(_mm_and_si128(_mm_castps_si128(v), _mm_srli_epi32(_mm_set1_epi32(-1), 1)))};
   }
+
+  static ORB_INLINE f32x4 not_le(f32x4 a, f32x4 b) { return {_mm_cmpnle_ps(a.v, b.v)}; }
+  ORB_INLINE bool any() const { return _mm_movemask_ps(v) != 0; }
+  friend ORB_INLINE f32x4 operator|(f32x4 a, f32x4 b) { return {_mm_or_ps(a.v, b.v)}; }
 
   friend ORB_INLINE f32x4 operator+(f32x4 a, f32x4 b) { return {_mm_add_ps(a.v, b.v)}; }
   friend ORB_INLINE f32x4 operator-(f32x4 a, f32x4 b) { return {_mm_sub_ps(a.v, b.v)}; }
@@ -117,9 +159,12 @@ struct Lane {
   static ORB_INLINE Lane splat(T a) { return {a}; }
   static ORB_INLINE Lane load(const T* p) { return {*p}; }
   static ORB_INLINE Lane loadu(const T* p) { return {*p}; }
+  static ORB_INLINE Lane widen(const float* p) { return {T(*p)}; }
   ORB_INLINE void store(T* p) const { *p = v; }
   ORB_INLINE void storeu(T* p) const { *p = v; }
+  ORB_INLINE T first() const { return v; }
   ORB_INLINE T sum() const { return v; }
+  ORB_INLINE Lane abs() const { return {std::abs(v)}; }
 
   friend ORB_INLINE Lane operator+(Lane a, Lane b) { return {a.v + b.v}; }
   friend ORB_INLINE Lane operator-(Lane a, Lane b) { return {a.v - b.v}; }
@@ -137,9 +182,23 @@ template <>
 struct VectorOf<float> {
   using type = f32x4;
 };
-// The full register for elements of type T.
+// The full register for elements of type T, and the one-element twin.
 template <class T>
 using vector_of = typename VectorOf<T>::type;
+template <class T>
+struct OneOf {
+  using type = Lane<T>;
+};
+template <class T>
+using one_of = typename OneOf<T>::type;
+
+// Fetches what lies `strides` steps of `inc` elements behind p, for one use: past the outer caches. Nothing
+// need lie there.
+template <class T>
+ORB_INLINE void prefetch_once(const T* p, int strides, int inc) {
+  const uintptr_t address = reinterpret_cast<uintptr_t>(p) + uintptr_t(strides) * uintptr_t(inc) * sizeof(T);
+  _mm_prefetch(reinterpret_cast<const char*>(address), _MM_HINT_NTA);
+}
 
 ORB_INLINE bool is_aligned(const void* p) { return (reinterpret_cast<uintptr_t>(p) & 15) == 0; }
 

@@ -1,0 +1,76 @@
+// Complex numbers in registers, under the words of simd.h, their parts interleaved as in memory: the full
+// register, which holds one number of doubles or two of singles, and its one-number twin.
+#pragma once
+
+#include "serv/kernel/complex.h"
+#include "serv/kernel/simd.h"
+
+namespace orb {
+
+// The real and the imaginary part of each number exchanged.
+ORB_INLINE f64x2 swap_parts(f64x2 a) { return a.swap_halves(); }
+ORB_INLINE f32x4 swap_parts(f32x4 a) { return a.swap_pairs(); }
+
+// The numbers of a register added, into the first two lanes.
+ORB_INLINE f64x2 sum_pairs(f64x2 a) { return a; }
+ORB_INLINE f32x4 sum_pairs(f32x4 a) { return a.sum_pairs(); }
+
+// One number as a factor of every number of a register. A product is formed as in complex.h.
+template <class V>
+struct Factor {
+  using R = typename V::Register;
+  R re, im;
+  friend ORB_INLINE V operator*(Factor a, V b) { return {R::addsub(a.re * b.v, a.im * swap_parts(b.v))}; }
+};
+
+template <Complex C>
+struct ComplexVector {
+  using Register = vector_of<real_of<C>>;
+  static constexpr int lanes = Register::lanes / 2;
+  Register v;
+
+  static ORB_INLINE Factor<ComplexVector> splat(C a) {
+    return {Register::splat(a.re), Register::splat(a.im)};
+  }
+  static ORB_INLINE ComplexVector zero() { return {Register::zero()}; }
+  static ORB_INLINE ComplexVector load(const C* p) { return {Register::load(&p->re)}; }
+  static ORB_INLINE ComplexVector loadu(const C* p) { return {Register::loadu(&p->re)}; }
+  ORB_INLINE void store(C* p) const { v.store(&p->re); }
+  ORB_INLINE void storeu(C* p) const { v.storeu(&p->re); }
+  ORB_INLINE C sum() const {
+    const Register numbers = sum_pairs(v);
+    return {numbers.first(), swap_parts(numbers).first()};
+  }
+
+  friend ORB_INLINE ComplexVector operator+(ComplexVector a, ComplexVector b) { return {a.v + b.v}; }
+};
+
+// Lanes behind the number are zero in operands and factors, so they raise no floating-point flag.
+template <Complex C>
+struct ComplexLane {
+  using Register = vector_of<real_of<C>>;
+  static constexpr int lanes = 1;
+  Register v;
+
+  static ORB_INLINE Factor<ComplexLane> splat(C a) {
+    return {Register::pair(a.re, a.re), Register::pair(a.im, a.im)};
+  }
+  static ORB_INLINE ComplexLane zero() { return {Register::zero()}; }
+  static ORB_INLINE ComplexLane load(const C* p) { return {Register::load_pair(&p->re)}; }
+  static ORB_INLINE ComplexLane loadu(const C* p) { return load(p); }
+  ORB_INLINE void store(C* p) const { v.store_pair(&p->re); }
+  ORB_INLINE void storeu(C* p) const { store(p); }
+
+  friend ORB_INLINE ComplexLane operator+(ComplexLane a, ComplexLane b) { return {a.v + b.v}; }
+};
+
+template <Complex C>
+struct VectorOf<C> {
+  using type = ComplexVector<C>;
+};
+template <Complex C>
+struct OneOf<C> {
+  using type = ComplexLane<C>;
+};
+
+}  // namespace orb
