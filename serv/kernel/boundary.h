@@ -10,6 +10,9 @@ static_assert(sizeof(void*) == 4 && FLT_EVAL_METHOD == 0,
 // aligns it for itself before any SSE code runs.
 #define ORB_EXPORT extern "C" __attribute__((visibility("default"), force_align_arg_pointer))
 #define ORB_INLINE inline __attribute__((always_inline))
+// The same for a lambda, behind its parameters. Left to the compiler, a long straight run of calls may stop
+// being inlined, and everything that the lambda captures then moves to the stack.
+#define ORB_INLINE_BODY __attribute__((always_inline))
 
 namespace orb {
 

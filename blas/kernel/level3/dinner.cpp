@@ -19,30 +19,36 @@ struct Set {
   ORB_INLINE void operator()(f64x2 sum, double* c) const { sum.storeu(c); }
 };
 
-ORB_INLINE void expand(int kp, const double* b, DoubledQuad quad) {
-  for (int k = 0; k < kp; k += 4)
-    unroll<4>([&](auto d) {
-      unroll<4>([&](auto q) { f64x2::splat(b[4 * (k + d) + q]).store(quad.at(k + d, q)); });
+// One row pair by one column quad over all k; finish(sum, q) takes the pair's sum for column q. The first row
+// pair of a quad also writes the quad's private panel, from which the others then load.
+template <bool first, class Finish>
+ORB_INLINE void multiply_pair(RowPairs<const double> rows, ColumnQuads<const double> columns,
+                              DoubledQuad quad, Finish finish) {
+  f64x2 sum[4];
+  unroll<4>([&](auto q) ORB_INLINE_BODY { sum[q] = f64x2::zero(); });
+  for (int k = 0; k < rows.kp; k += 4)
+    unroll<4>([&](auto d) ORB_INLINE_BODY {
+      const f64x2 pair = f64x2::load(rows.at(0, k + d));
+      unroll<4>([&](auto q) ORB_INLINE_BODY {
+        double* const slot = quad.at(k + d, q);
+        if constexpr (first) f64x2::splat(*columns.at(q, k + d)).store(slot);
+        sum[q] += pair * f64x2::load(slot);
+      });
+      keep_in_registers(sum);
     });
+  unroll<4>([&](auto q) ORB_INLINE_BODY { finish(sum[q], q); });
 }
 
-template <class Finish>
-ORB_INLINE void multiply(int m, int n, int kp, RowPairs<const double> a, ColumnQuads<const double> b,
-                         double* c, int ldc, DoubledQuad quad, Finish finish) {
-  for (int j = 0; j < n; j += 4, c += 4 * ldc) {
-    expand(kp, b.at(j, 0), quad);
-    for (int i = 0; i < m; i += 2) {
-      f64x2 sum[4];
-      unroll<4>([&](auto q) { sum[q] = f64x2::zero(); });
-      const double* rows = a.at(i, 0);
-      for (int k = 0; k < kp; k += 4)
-        unroll<4>([&](auto d) {
-          const f64x2 pair = f64x2::load(rows + 2 * (k + d));
-          unroll<4>([&](auto q) { sum[q] += pair * f64x2::load(quad.at(k + d, q)); });
-          keep_in_registers(sum);
-        });
-      unroll<4>([&](auto q) { finish(sum[q], c + i + q * ldc); });
-    }
+template <class Update>
+ORB_INLINE void multiply(int m, int n, RowPairs<const double> a, ColumnQuads<const double> b, double* c,
+                         int ldc, DoubledQuad quad, Update update) {
+  for (int j = 0; j < n / 4; ++j, c += 4 * ldc) {
+    const auto multiply_at = [&](auto first, int i) ORB_INLINE_BODY {
+      multiply_pair<first>(a.from_strip(i), b.from_strip(j), quad,
+                           [&](f64x2 sum, int q) ORB_INLINE_BODY { update(sum, c + 2 * i + q * ldc); });
+    };
+    multiply_at(Int<true>{}, 0);
+    for (int i = 1; i < m / 2; ++i) multiply_at(Int<false>{}, i);
   }
 }
 
@@ -53,20 +59,20 @@ using namespace orb::blas;
 
 ORB_EXPORT void orb_blas_dinner(const int* m, const int* n, const int*, const double* a, const double* b,
                                 const void*, double* c, const int* ldc, double* priv) {
-  multiply(*m, *n, panel_depth, {a, panel_depth}, {b, panel_depth}, c, *ldc, {priv}, Add{});
+  multiply(*m, *n, {a, panel_depth}, {b, panel_depth}, c, *ldc, {priv}, Add{});
 }
 ORB_EXPORT void orb_blas_dinner_roll(const int* m, const int* n, const int* kp, const double* a,
                                      const double* b, const void*, double* c, const int* ldc, double* priv,
                                      const double*) {
-  multiply(*m, *n, *kp, {a, *kp}, {b, *kp}, c, *ldc, {priv}, Add{});
+  multiply(*m, *n, {a, *kp}, {b, *kp}, c, *ldc, {priv}, Add{});
 }
 ORB_EXPORT void orb_blas_dinnerb_roll(const int* m, const int* n, const int* kp, const double* a,
                                       const double* b, const void*, double* c, const int* ldc, double* priv,
                                       const double* beta2) {
-  multiply(*m, *n, *kp, {a, *kp}, {b, *kp}, c, *ldc, {priv}, ScaleAndAdd{orb::f64x2::load(beta2)});
+  multiply(*m, *n, {a, *kp}, {b, *kp}, c, *ldc, {priv}, ScaleAndAdd{orb::f64x2::load(beta2)});
 }
 ORB_EXPORT void orb_blas_dinnerz_roll(const int* m, const int* n, const int* kp, const double* a,
                                       const double* b, const void*, double* c, const int* ldc, double* priv,
                                       const double*) {
-  multiply(*m, *n, *kp, {a, *kp}, {b, *kp}, c, *ldc, {priv}, Set{});
+  multiply(*m, *n, {a, *kp}, {b, *kp}, c, *ldc, {priv}, Set{});
 }
