@@ -142,6 +142,7 @@ struct f32x2 {
     return {_mm_movelh_ps(low, low)};
   }
   ORB_INLINE void storeu(float* p) const { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
+  ORB_INLINE float first() const { return _mm_cvtss_f32(v); }
 
   friend ORB_INLINE f32x2 operator+(f32x2 a, f32x2 b) { return {_mm_add_ps(a.v, b.v)}; }
   friend ORB_INLINE f32x2 operator*(f32x2 a, f32x2 b) { return {_mm_mul_ps(a.v, b.v)}; }

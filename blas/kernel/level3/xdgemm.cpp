@@ -1,6 +1,8 @@
 // Driver of the double-precision matrix product: quick returns, choice of the small path, and the loop nest
 // that packs panels of op(A) and op(B) for the inner kernels. C is updated in place.
 // Source: K. Goto, R. van de Geijn, Anatomy of high-performance matrix multiplication, ACM TOMS 34 (2008).
+#include <algorithm>
+
 #include "blas/kernel/level3/dgemm_panels.h"
 #include "orb/blas_gemm.h"
 #include "orb/blas_gemm_kernels.h"
@@ -13,8 +15,6 @@ namespace {
 constexpr int most_rows = 512, most_columns = 2000;  // of one block of C
 constexpr double one = 1;
 constexpr int one_row = 1, unit_stride = 1;
-
-ORB_INLINE int smaller(int x, int y) { return x < y ? x : y; }
 
 // The block of one call and its carving: A panel and B panel on pages, and the kernels' private panel 384
 // bytes past a 128-byte line, away from the sets that the panels' starts fall into.
@@ -68,18 +68,18 @@ void blocked_product(const char* transa, const char* transb, int m, int n, int k
   alignas(16) const double beta2[2] = {*beta, *beta};
 
   const int even_rows = m & ~1, quad_columns = n & ~3;
-  const int most = smaller(n, most_columns);
+  const int most = std::min(n, most_columns);
   const int short_depth = k % panel_depth == 0 ? panel_depth : k % panel_depth;
   const int full_depths = k - short_depth;
   const Scratch scratch(most);
 
   for (int j = 0; j < quad_columns; j += most) {
-    const int width = smaller(most, quad_columns - j);
+    const int width = std::min(most, quad_columns - j);
     // `depth` terms from k on, for this column block; kernel(height, i) multiplies the packed rows from i on.
     const auto add_terms = [&](int at, int depth, const double* row_beta, auto kernel) {
       pack_b(&depth, &width, columns.at(j, at), ldb, scratch.b_panel);
       for (int i = 0; i < even_rows; i += most_rows) {
-        const int height = smaller(most_rows, even_rows - i);
+        const int height = std::min(most_rows, even_rows - i);
         pack_a(&height, &depth, rows.at(i, at), lda, scratch.a_panel, alpha);
         kernel(&height, c + i + j * *ldc);
       }
