@@ -9,6 +9,8 @@
 //   widen           singles from any address as doubles
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
 //   not_le          lanes of ones where !(a <= b), as for NaN; zeros elsewhere; any() asks for a set lane
+//   sums            sum() of four registers, side by side in one
+//   transpose       exchanges rows and columns of a 4 by 4 block
 #pragma once
 
 #include <pmmintrin.h>
@@ -96,6 +98,12 @@ struct f32x4 {
   // the first and the last two lanes as doubles
   ORB_INLINE f64x2 widen_first() const { return {_mm_cvtps_pd(v)}; }
   ORB_INLINE f64x2 widen_last() const { return {_mm_cvtps_pd(_mm_movehl_ps(v, v))}; }
+  static ORB_INLINE f32x4 sums(const f32x4 (&x)[4]) {
+    const f32x4 pair01 = low_halves(x[0], x[1]) + high_halves(x[0], x[1]);  // l0 + l2 twice, l1 + l3 twice
+    const f32x4 pair23 = low_halves(x[2], x[3]) + high_halves(x[2], x[3]);
+    return f32x4{_mm_movelh_ps(pair01.v, pair23.v)} + f32x4{_mm_movehl_ps(pair23.v, pair01.v)};
+  }
+  static ORB_INLINE void transpose(f32x4 (&x)[4]) { _MM_TRANSPOSE4_PS(x[0].v, x[1].v, x[2].v, x[3].v); }
   // exchanges the two lanes of each complex pair
   ORB_INLINE f32x4 swap_pairs() const { return {_mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1))}; }
   // (a0, a2, b0, b2) and (a1, a3, b1, b3)
@@ -114,6 +122,9 @@ struct f32x4 {
   static ORB_INLINE f32x4 not_le(f32x4 a, f32x4 b) { return {_mm_cmpnle_ps(a.v, b.v)}; }
   ORB_INLINE bool any() const { return _mm_movemask_ps(v) != 0; }
   friend ORB_INLINE f32x4 operator|(f32x4 a, f32x4 b) { return {_mm_or_ps(a.v, b.v)}; }
+  // (a0, b0, a1, b1) and (a2, b2, a3, b3)
+  static ORB_INLINE f32x4 low_halves(f32x4 a, f32x4 b) { return {_mm_unpacklo_ps(a.v, b.v)}; }
+  static ORB_INLINE f32x4 high_halves(f32x4 a, f32x4 b) { return {_mm_unpackhi_ps(a.v, b.v)}; }
 
   friend ORB_INLINE f32x4 operator+(f32x4 a, f32x4 b) { return {_mm_add_ps(a.v, b.v)}; }
   friend ORB_INLINE f32x4 operator-(f32x4 a, f32x4 b) { return {_mm_sub_ps(a.v, b.v)}; }
@@ -125,7 +136,9 @@ struct f32x4 {
 // loads and pushes the sums to the stack instead.
 template <class V>
 ORB_INLINE void keep_in_registers(V (&sum)[4]) {
-  asm volatile("" : "+x"(sum[0].v), "+x"(sum[1].v), "+x"(sum[2].v), "+x"(sum[3].v));
+  auto v0 = sum[0].v, v1 = sum[1].v, v2 = sum[2].v, v3 = sum[3].v;
+  asm volatile("" : "+x"(v0), "+x"(v1), "+x"(v2), "+x"(v3));
+  sum[0].v = v0, sum[1].v = v1, sum[2].v = v2, sum[3].v = v3;
 }
 
 // Two singles, for edges: the upper half of the register repeats the lower, so it raises no exceptions of its
