@@ -66,7 +66,7 @@ class ProductExperiment : public Experiment {
   }
 
  private:
-  static std::size_t product(int rows, int columns) { return std::size_t(rows) * std::size_t(columns); }
+  static std::size_t product(int a, int b) { return std::size_t(a) * std::size_t(b); }
   static auto* entry(const Library& library) { return library.find<Entry<T>>(letter_of<T>() + "gemm_"); }
   int lda() const { return row_.transa == 'N' ? row_.m : row_.k; }
   int ldb() const { return row_.transb == 'N' ? row_.k : row_.n; }
