@@ -72,9 +72,7 @@ const Reader* reader_of(const std::string& name) {
 }  // namespace
 
 std::variant<Options, std::string> parse_options(const std::vector<std::string>& arguments) {
-  Options options;
-  options.library = ORB_BENCH_LIBRARY;
-  options.folder = ORB_BENCH_FOLDER;
+  Options options{.library = ORB_BENCH_LIBRARY, .folder = ORB_BENCH_FOLDER};
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& name = arguments[i];
     if (name == "--help") {
