@@ -53,6 +53,7 @@ struct f64x2 {
   static ORB_INLINE f64x2 odd(f64x2 a, f64x2 b) { return {_mm_unpackhi_pd(a.v, b.v)}; }
   // (a0 - b0, a1 + b1)
   static ORB_INLINE f64x2 addsub(f64x2 a, f64x2 b) { return {_mm_addsub_pd(a.v, b.v)}; }
+  // The mask is applied in the integer unit, which leaves the floating-point pipes to the sums.
   ORB_INLINE f64x2 abs() const {
     return {_mm_castsi128_pd(_mm_and_si128(_mm_castpd_si128(v), _mm_srli_epi64(_mm_set1_epi32(-1), 1)))};
   }
