@@ -10,7 +10,7 @@
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
 //   not_le          lanes of ones where !(a <= b), as for NaN; zeros elsewhere; any() asks for a set lane
 //   sums            sum() of four registers, side by side in one
-//   transpose       exchanges rows and columns of a 4 by 4 block
+//   transpose       exchanges rows and columns of a 4 by 4 block of singles, a 2 by 2 block of doubles
 #pragma once
 
 #include <pmmintrin.h>
@@ -47,6 +47,11 @@ struct f64x2 {
   // (a0, b0) and (a1, b1)
   static ORB_INLINE f64x2 low_halves(f64x2 a, f64x2 b) { return {_mm_unpacklo_pd(a.v, b.v)}; }
   static ORB_INLINE f64x2 high_halves(f64x2 a, f64x2 b) { return {_mm_unpackhi_pd(a.v, b.v)}; }
+  static ORB_INLINE void transpose(f64x2 (&x)[2]) {
+    const f64x2 row = low_halves(x[0], x[1]);
+    x[1] = high_halves(x[0], x[1]);
+    x[0] = row;
+  }
   ORB_INLINE f64x2 swap_halves() const { return {_mm_shuffle_pd(v, v, 1)}; }
   // (a0, b0) and (a1, b1)
   static ORB_INLINE f64x2 even(f64x2 a, f64x2 b) { return {_mm_unpacklo_pd(a.v, b.v)}; }

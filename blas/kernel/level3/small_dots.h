@@ -22,8 +22,8 @@ struct DotSums {
   static constexpr int count = 8 / V::lanes;
   V sum[count];
 
-  ORB_INLINE explicit DotSums(T start = 0) {
-    sum[0] = V::low(&start);
+  ORB_INLINE void start(T first) {
+    sum[0] = V::low(&first);
     for (int s = 1; s < count; ++s) sum[s] = V::zero();
   }
   // n terms, a multiple of 8, y on a 16-byte boundary
@@ -55,7 +55,8 @@ template <class T>
 ORB_INLINE T dot(int n, const T* x, const T* y) {
   const int peel = elements_to_boundary(y);
   if (n < least_rounds_depth || peel < 0) return add_in_order(T(0), 0, n, x, y, 1);
-  DotSums<T> sums(add_in_order(T(0), 0, peel, x, y, 1));
+  DotSums<T> sums;
+  sums.start(add_in_order(T(0), 0, peel, x, y, 1));
   const int body = (n - peel) & ~7;
   sums.add(body, x + peel, y + peel);
   return add_in_order(sums.total(), peel + body, n, x, y, 1);
@@ -77,21 +78,48 @@ void multiply_contiguous(const SmallProduct<T>& p) {
         scale_dot(p, i, j, dot(p.k, p.a + i * p.lda, p.b + j * p.b_across));
 }
 
+// A slice of a few columns of op(B), each contiguous in k.
+constexpr int group = 4, slice = 128;
+template <class T>
+using ColumnSlices = T[group][slice];
+
+// Copies `depth` terms (a multiple of 8) of `columns` columns from op(B)(first, left) on.
+template <class T>
+ORB_INLINE void lay_along(const SmallProduct<T>& p, int first, int depth, int left, int columns,
+                          ColumnSlices<T>& to) {
+  using V = vector_of<T>;
+  const int down = p.b_down;
+  const T* b = p.b + left + first * down;
+  if (columns < group) {
+    for (int k = 0; k < depth; ++k, b += down)
+      for (int q = 0; q < columns; ++q) to[q][k] = b[q];
+    return;
+  }
+  for (int k = 0; k < depth; k += V::lanes, b += V::lanes * down)
+    unroll<group / V::lanes>([&](auto part) ORB_INLINE_BODY {
+      V square[V::lanes];
+      unroll<V::lanes>([&](auto r) ORB_INLINE_BODY { square[r] = V::loadu(b + r * down + part * V::lanes); });
+      V::transpose(square);
+      unroll<V::lanes>([&](auto q) ORB_INLINE_BODY { square[q].store(&to[part * V::lanes + q][k]); });
+    });
+}
+
 // Rows of op(B) contiguous: a few columns are laid out along k in slices, for a strip of rows at a time.
 template <class T>
 void multiply_gathered(const SmallProduct<T>& p) {
-  constexpr int strip = 16, group = 4, slice = 128;
+  constexpr int strip = 16;
   const int body = p.k & ~7;
   for (int top = 0; top < p.m; top += strip) {
     const int rows = std::min(strip, p.m - top);
     for (int left = 0; left < p.n; left += group) {
       const int columns = std::min(group, p.n - left);
       DotSums<T> sums[strip][group];
+      for (int r = 0; r < rows; ++r)
+        for (int q = 0; q < columns; ++q) sums[r][q].start(0);
       for (int first = 0; first < body; first += slice) {
         const int depth = std::min(slice, body - first);
-        alignas(16) T along[group][slice];
-        for (int k = 0; k < depth; ++k)
-          for (int q = 0; q < columns; ++q) along[q][k] = p.b[(first + k) * p.b_down + left + q];
+        alignas(16) ColumnSlices<T> along;
+        lay_along(p, first, depth, left, columns, along);
         for (int q = 0; q < columns; ++q)
           for (int r = 0; r < rows; ++r) sums[r][q].add(depth, p.a + (top + r) * p.lda + first, along[q]);
       }
