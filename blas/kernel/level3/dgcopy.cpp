@@ -21,15 +21,14 @@ struct Times {
 // Four k of all strips, of which the first `depth` exist.
 template <int depth, class P, class Change>
 ORB_INLINE void copy_side_by_side(int lines, int k, const double* src, int ld, P panel, Change change) {
-  for (int line = 0; line < lines; line += P::width) {
-    double* to = panel.at(line, k);
-    unroll<4>([&](auto d) {
-      unroll<P::width / 2>([&](auto pair) {
-        const f64x2 x = d < depth ? change(f64x2::loadu(src + line + 2 * pair + d * ld)) : f64x2::zero();
+  double* to = panel.at(0, k);
+  for (int line = 0; line < lines; line += P::width, src += P::width, to += panel.strip_size())
+    unroll<4>([&](auto d) ORB_INLINE_BODY {
+      unroll<P::width / 2>([&](auto pair) ORB_INLINE_BODY {
+        const f64x2 x = d < depth ? change(f64x2::loadu(src + 2 * pair + d * ld)) : f64x2::zero();
         x.store(to + d * P::width + 2 * pair);
       });
     });
-  }
 }
 
 template <class P, class Change>
@@ -49,20 +48,27 @@ ORB_INLINE void pack_side_by_side(int lines, int depth, const double* src, int l
 template <class P, class Change>
 ORB_INLINE void pack_one_behind_the_other(int lines, int depth, const double* src, int ld, P panel,
                                           Change change) {
+  // Both k of a pair, or with `last` the one k that is left over.
+  const auto copy = [=](auto last, const double* from, double* to) ORB_INLINE_BODY {
+    unroll<P::width / 2>([=](auto pair) ORB_INLINE_BODY {
+      const double* x = from + 2 * pair * ld;
+      f64x2 block[2] = {f64x2::zero(), f64x2::zero()};
+      if constexpr (last) {
+        block[0] = change(f64x2::gather(x, ld));
+      } else {
+        block[0] = change(f64x2::loadu(x)), block[1] = change(f64x2::loadu(x + ld));
+        f64x2::transpose(block);
+      }
+      block[0].store(to + 2 * pair), block[1].store(to + P::width + 2 * pair);
+    });
+  };
   for (int line = 0; line < lines; line += P::width, src += P::width * ld) {
+    double* to = panel.at(line, 0);
+    double* const end = to + panel.strip_size();
     int k = 0;
-    for (; depth - k >= 2; k += 2)
-      unroll<P::width / 2>([&](auto pair) {
-        const double* from = src + k + 2 * pair * ld;
-        const f64x2 x = change(f64x2::loadu(from)), y = change(f64x2::loadu(from + ld));
-        f64x2::low_halves(x, y).store(panel.at(line + 2 * pair, k));
-        f64x2::high_halves(x, y).store(panel.at(line + 2 * pair, k + 1));
-      });
-    for (; k < panel.kp; ++k)
-      unroll<P::width / 2>([&](auto pair) {
-        const f64x2 x = k < depth ? change(f64x2::gather(src + k + 2 * pair * ld, ld)) : f64x2::zero();
-        x.store(panel.at(line + 2 * pair, k));
-      });
+    for (; depth - k >= 2; k += 2, to += 2 * P::width) copy(Int<false>{}, src + k, to);
+    if (k < depth) copy(Int<true>{}, src + k, to), to += 2 * P::width;
+    if (to < end) unroll<P::width>([=](auto pair) ORB_INLINE_BODY { f64x2::zero().store(to + 2 * pair); });
   }
 }
 

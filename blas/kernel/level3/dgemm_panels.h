@@ -21,7 +21,8 @@ struct Panel {
   T* p;
   int kp;
   ORB_INLINE T* at(int line, int k) const { return p + line / width * width * kp + k * width + line % width; }
-  ORB_INLINE Panel from_strip(int strip) const { return {p + strip * width * kp, kp}; }
+  ORB_INLINE int strip_size() const { return width * kp; }
+  ORB_INLINE Panel from_strip(int strip) const { return {p + strip * strip_size(), kp}; }
 };
 template <class T>
 using RowPairs = Panel<2, T>;  // of A

@@ -33,8 +33,8 @@ ORB_INLINE void multiply_pair(RowPairs<const double> rows, ColumnQuads<const dou
         double* const slot = quad.at(k + d, q);
         if constexpr (first) f64x2::splat(*columns.at(q, k + d)).store(slot);
         sum[q] += pair * f64x2::load(slot);
+        keep_in_registers(sum);
       });
-      keep_in_registers(sum);
     });
   unroll<4>([&](auto q) ORB_INLINE_BODY { finish(sum[q], q); });
 }
