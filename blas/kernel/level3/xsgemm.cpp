@@ -86,9 +86,12 @@ struct Block {
   // copy(C's element, its place in the tiles) for the rows of the last, partial tile.
   template <class Copy>
   void for_each_edge(Copy copy) const {
-    const int whole = round_down(rows, tile_rows);
-    for (int j = 0; j < columns; ++j)
-      for (int i = whole; i < rows; ++i) copy(c()[i + j * *p.ldc], s.c[c_tile(columns, i, j)]);
+    const int whole = round_down(rows, tile_rows), count = rows - whole;
+    for (int j = 0; j < columns; ++j) {
+      float* const at = c() + whole + j * *p.ldc;
+      float* const in_tile = tile(whole) + j * tile_rows;
+      for (int i = 0; i < count; ++i) copy(at[i], in_tile[i]);
+    }
   }
 
   void fill_tiles() const {
