@@ -103,7 +103,7 @@ void orb_blas_zdotc(orb_complex_double* result, const int* n, const orb_complex_
 
 /** Sum of x[i] y[i] with exact products and double sums. Equal positive strides: one sum for the elements
  *  at even places and one for those at odd places, the last of an odd count joining the first sum; they are
- *  added at the end. Other strides: one sum. */
+ *  added at the end. Other strides, -1 included: one sum, in the order of the BLAS. */
 double orb_blas_dsdot(const int* n, const float* x, const int* incx, const float* y, const int* incy);
 
 /** sb plus the sum of x[i] y[i], as in orb_blas_dsdot() with the first sum starting at sb, rounded once to
@@ -111,9 +111,9 @@ double orb_blas_dsdot(const int* n, const float* x, const int* incx, const float
 float orb_blas_sdsdot(const int* n, const float* sb, const float* x, const int* incx, const float* y,
                       const int* incy);
 
-/** Sum of |x[i]|. Four accumulators; blocks of 16, 8, 4, 2 doubles, of 32, 16, 8, 4 singles. Other strides
- *  of doubles: two sums, for the elements at even and at odd places, the last of an odd count joining the
- *  first. @{ */
+/** Sum of |x[i]|. Four accumulators; blocks of 16, 8, 4, 2 doubles, of 32, 16, 8, 4 singles. Doubles of
+ *  other strides or alignment: two sums, for the elements at even and at odd places, the last of an odd
+ *  count joining the first. @{ */
 float orb_blas_sasum(const int* n, const float* x, const int* incx);
 double orb_blas_dasum(const int* n, const double* x, const int* incx);
 /** @} */

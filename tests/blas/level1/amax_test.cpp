@@ -29,15 +29,15 @@ struct Entry<c64> {
 template <class T>
 class Extreme : public testing::Test {
  protected:
-  using P = part_of<T>;
-  static P magnitude(const T& a) {
-    P sum = 0;
+  using Part = part_of<T>;
+  static Part magnitude(const T& a) {
+    Part sum = 0;
     for (int p = 0; p < parts<T>; ++p) sum += std::abs(as_parts(&a)[p]);
     return sum;
   }
-  static void set(T& a, P value) {
+  static void set(T& a, Part value) {
     a = T{};
-    const_cast<P*>(as_parts(&a))[parts<T> - 1] = value;
+    const_cast<Part*>(as_parts(&a))[parts<T> - 1] = value;
   }
   template <class Keeps>
   static int place(const Vector<T>& x, int n, int inc, Keeps keeps) {
@@ -48,8 +48,8 @@ class Extreme : public testing::Test {
     return best + 1;
   }
   static void compare(const Vector<T>& x, Shape s, const char* what) {
-    const int largest = place(x, s.n, s.incx, [](P best, P m) { return best >= m; });
-    const int smallest = place(x, s.n, s.incx, [](P best, P m) { return best <= m; });
+    const int largest = place(x, s.n, s.incx, [](Part best, Part m) { return best >= m; });
+    const int smallest = place(x, s.n, s.incx, [](Part best, Part m) { return best <= m; });
     EXPECT_EQ(call(Entry<T>::amax, &s.n, x.data(), &s.incx), largest) << s << what;
     EXPECT_EQ(call(Entry<T>::amin, &s.n, x.data(), &s.incx), smallest) << s << what;
   }

@@ -31,8 +31,8 @@ struct Entry<c64> {
 template <class T>
 class Axpy : public testing::Test {
  protected:
-  using P = part_of<T>;
-  static T number(P re, P im) {
+  using Part = part_of<T>;
+  static T number(Part re, Part im) {
     if constexpr (is_complex<T>)
       return {re, im};
     else

@@ -29,14 +29,14 @@ struct Entry<c64> {
 template <class T>
 class Norm : public testing::Test {
  protected:
-  using P = part_of<T>;
-  static constexpr bool single = sizeof(P) == 4;
+  using Part = part_of<T>;
+  static constexpr bool single = sizeof(Part) == 4;
   // The parts of all elements in turn: in order of memory for a vector without gaps, else of the BLAS.
   struct Parts {
     const Vector<T>& x;
     Shape s;
     bool whole;
-    P operator()(int i) const {
+    Part operator()(int i) const {
       return as_parts(whole ? &x.data()[i / parts<T>] : &x.at(i / parts<T>))[i % parts<T>];
     }
   };
