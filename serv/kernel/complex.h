@@ -56,5 +56,9 @@ template <Complex C>
 ORB_INLINE C conj(C a) {
   return {a.re, -a.im};
 }
+template <Real T>
+ORB_INLINE T conj(T a) {
+  return a;
+}
 
 }  // namespace orb

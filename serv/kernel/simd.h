@@ -8,6 +8,8 @@
 //   add_low         a scalar added to the first lane, the others as they were
 //   widen           singles from any address as doubles
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
+//   each            elements from any address, each the factor of its own element
+//   evens, odds     each lane of even, of odd number into both lanes of its pair
 //   not_le          lanes of ones where !(a <= b), as for NaN; zeros elsewhere; any() asks for a set lane
 //   sums            sum() of four registers, side by side in one
 //   transpose       exchanges rows and columns of a 4 by 4 block of singles, a 2 by 2 block of doubles
@@ -52,6 +54,10 @@ struct f64x2 {
     x[1] = high_halves(x[0], x[1]);
     x[0] = row;
   }
+  static ORB_INLINE f64x2 each(const double* p) { return loadu(p); }
+  static ORB_INLINE f64x2 twice(const double* p) { return splat(*p); }
+  ORB_INLINE f64x2 evens() const { return low_halves(*this, *this); }
+  ORB_INLINE f64x2 odds() const { return high_halves(*this, *this); }
   ORB_INLINE f64x2 swap_halves() const { return {_mm_shuffle_pd(v, v, 1)}; }
   // (a0, b0) and (a1, b1)
   static ORB_INLINE f64x2 even(f64x2 a, f64x2 b) { return {_mm_unpacklo_pd(a.v, b.v)}; }
@@ -67,6 +73,7 @@ struct f64x2 {
   ORB_INLINE bool any() const { return _mm_movemask_pd(v) != 0; }
   friend ORB_INLINE f64x2 operator|(f64x2 a, f64x2 b) { return {_mm_or_pd(a.v, b.v)}; }
 
+  friend ORB_INLINE f64x2 operator-(f64x2 a) { return {_mm_xor_pd(a.v, _mm_set1_pd(-0.0))}; }
   friend ORB_INLINE f64x2 operator+(f64x2 a, f64x2 b) { return {_mm_add_pd(a.v, b.v)}; }
   friend ORB_INLINE f64x2 operator-(f64x2 a, f64x2 b) { return {_mm_sub_pd(a.v, b.v)}; }
   friend ORB_INLINE f64x2 operator*(f64x2 a, f64x2 b) { return {_mm_mul_pd(a.v, b.v)}; }
@@ -110,6 +117,14 @@ struct f32x4 {
     return f32x4{_mm_movelh_ps(pair01.v, pair23.v)} + f32x4{_mm_movehl_ps(pair23.v, pair01.v)};
   }
   static ORB_INLINE void transpose(f32x4 (&x)[4]) { _MM_TRANSPOSE4_PS(x[0].v, x[1].v, x[2].v, x[3].v); }
+  static ORB_INLINE f32x4 each(const float* p) { return loadu(p); }
+  // (p0, p0, p1, p1)
+  static ORB_INLINE f32x4 twice(const float* p) {
+    const __m128 pair = load_pair(p).v;
+    return {_mm_unpacklo_ps(pair, pair)};
+  }
+  ORB_INLINE f32x4 evens() const { return {_mm_moveldup_ps(v)}; }
+  ORB_INLINE f32x4 odds() const { return {_mm_movehdup_ps(v)}; }
   // exchanges the two lanes of each complex pair
   ORB_INLINE f32x4 swap_pairs() const { return {_mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1))}; }
   // (a0, a2, b0, b2) and (a1, a3, b1, b3)
@@ -132,6 +147,7 @@ struct f32x4 {
   static ORB_INLINE f32x4 low_halves(f32x4 a, f32x4 b) { return {_mm_unpacklo_ps(a.v, b.v)}; }
   static ORB_INLINE f32x4 high_halves(f32x4 a, f32x4 b) { return {_mm_unpackhi_ps(a.v, b.v)}; }
 
+  friend ORB_INLINE f32x4 operator-(f32x4 a) { return {_mm_xor_ps(a.v, _mm_set1_ps(-0.0f))}; }
   friend ORB_INLINE f32x4 operator+(f32x4 a, f32x4 b) { return {_mm_add_ps(a.v, b.v)}; }
   friend ORB_INLINE f32x4 operator-(f32x4 a, f32x4 b) { return {_mm_sub_ps(a.v, b.v)}; }
   friend ORB_INLINE f32x4 operator*(f32x4 a, f32x4 b) { return {_mm_mul_ps(a.v, b.v)}; }
@@ -145,6 +161,12 @@ ORB_INLINE void keep_in_registers(V (&sum)[4]) {
   auto v0 = sum[0].v, v1 = sum[1].v, v2 = sum[2].v, v3 = sum[3].v;
   asm volatile("" : "+x"(v0), "+x"(v1), "+x"(v2), "+x"(v3));
   sum[0].v = v0, sum[1].v = v1, sum[2].v = v2, sum[3].v = v3;
+}
+// Two sums. A compiler that puts several rounds into one register spends more on filling it than it saves on
+// the products.
+template <class V>
+ORB_INLINE void keep_in_registers(V (&sum)[2]) {
+  asm volatile("" : "+x"(sum[0].v), "+x"(sum[1].v));
 }
 
 // Two singles, for edges: the upper half of the register repeats the lower, so it raises no exceptions of its
@@ -179,6 +201,7 @@ struct Lane {
   static ORB_INLINE Lane splat(T a) { return {a}; }
   static ORB_INLINE Lane load(const T* p) { return {*p}; }
   static ORB_INLINE Lane loadu(const T* p) { return {*p}; }
+  static ORB_INLINE Lane each(const T* p) { return {*p}; }
   static ORB_INLINE Lane widen(const float* p) { return {T(*p)}; }
   ORB_INLINE void store(T* p) const { *p = v; }
   ORB_INLINE void storeu(T* p) const { *p = v; }

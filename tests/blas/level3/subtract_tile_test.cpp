@@ -38,10 +38,8 @@ const WalkerCase walker_cases[] = {BOTH_WALKERS(nn, 4),  BOTH_WALKERS(nn, 8), BO
                                    BOTH_WALKERS(nn, 32), BOTH_WALKERS(tn, 8), BOTH_WALKERS(tn, 16),
                                    BOTH_WALKERS(tn, 32)};
 
-// Products that round, of both signs.
-double value(int i) { return (i * 37 % 101 - 50) / 7.0; }
 void fill(const Guarded<double>& x, int seed) {
-  for (int i = 0; i < x.size(); ++i) x[i] = value(i + seed);
+  for (int i = 0; i < x.size(); ++i) x[i] = orb::test::value<double>(i + seed);
 }
 
 // c -= sum over k of a(k) b(k), each k going to the sum of its parity.
