@@ -25,24 +25,25 @@ ORB_INLINE void subtract_sums(f64x2 row0, f64x2 row1, double* c) {
 template <int depth, bool aligned>
 ORB_INLINE void subtract_group(const double* group, const double* b, double* c) {
   f64x2 sum[group_rows] = {f64x2::zero(), f64x2::zero(), f64x2::zero(), f64x2::zero()};
-  unroll<depth / pair>([&](auto p) ORB_INLINE_BODY {
-    const f64x2 bp = fetch<aligned>(b + p * pair);
-    unroll<group_rows>([&](auto r)
-                           ORB_INLINE_BODY { sum[r] += f64x2::load(group + at(depth, 0, p, r)) * bp; });
-    keep_in_registers(sum);
-  });
+  constexpr int pairs = depth / pair, round = pairs < 4 ? pairs : 4;
+  for (int p = 0; p < pairs; p += round)
+    unroll<round>([&](auto q) ORB_INLINE_BODY {
+      const f64x2 bp = fetch<aligned>(b + (p + q) * pair);
+      unroll<group_rows>([&](auto r)
+                             ORB_INLINE_BODY { sum[r] += f64x2::load(group + at(depth, 0, p + q, r)) * bp; });
+      keep_in_registers(sum);
+    });
   subtract_sums<aligned>(sum[0], sum[1], c);
   subtract_sums<aligned>(sum[2], sum[3], c + 2);
 }
 
-// Straight code over rows and depth. The hardware fetches the next column ahead, loads in advance gained
-// nothing; so no column is read before its turn and the last one needs no code of its own.
+// The hardware fetches the next column ahead, loads in advance gained nothing; so no column is read before
+// its turn and the last one needs no code of its own.
 template <int rows, int depth, bool aligned>
 void subtract_tile(int n, const double* tile, const double* b, int ldb, double* c, int ldc) {
   for (int j = 0; j < n; ++j, b += ldb, c += ldc)
-    unroll<rows / group_rows>([=](auto g) ORB_INLINE_BODY {
+    for (int g = 0; g < rows / group_rows; ++g)
       subtract_group<depth, aligned>(tile + at(depth, g, 0, 0), b, c + g * group_rows);
-    });
 }
 
 }  // namespace
