@@ -33,7 +33,7 @@ void orb_blas_dgcopybt(const int* k, const int* n, const double* b, const int* l
 
 /** C += A B on packed panels, C m by n (m even, n a multiple of 4), depth exactly 128. Each element is one
  * sum in rising k, added to C once. C may have any alignment. `k` and `unused` are not read; `priv` is the
- * private panel, written. */
+ * private panel, written, and left holding the last column quad. */
 void orb_blas_dinner(const int* m, const int* n, const int* k, const double* a, const double* b,
                      const void* unused, double* c, const int* ldc, double* priv);
 /** The same for a depth of kp: C += A B (`roll`), C = beta C + A B (`b_roll`, beta twice at the 16-byte

@@ -42,6 +42,7 @@ ORB_INLINE void multiply_pair(RowPairs<const double> rows, ColumnQuads<const dou
 template <class Update>
 ORB_INLINE void multiply(int m, int n, RowPairs<const double> a, ColumnQuads<const double> b, double* c,
                          int ldc, DoubledQuad quad, Update update) {
+  if (m < 2) return;
   for (int j = 0; j < n / 4; ++j, c += 4 * ldc) {
     const auto multiply_at = [&](auto first, int i) ORB_INLINE_BODY {
       multiply_pair<first>(a.from_strip(i), b.from_strip(j), quad,
