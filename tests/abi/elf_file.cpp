@@ -68,7 +68,8 @@ std::vector<std::string> ElfFile::versions_defined() const {
   return names;
 }
 
-bool ElfFile::calls_stay_inside() const {
+std::set<std::string> ElfFile::replaceable() const {
+  std::set<std::string> names;
   const auto* e = at<Elf32_Ehdr>(0);
   for (int i = 0; i < e->e_shnum; ++i) {
     if (header(i)->sh_type != SHT_REL) continue;
@@ -76,10 +77,11 @@ bool ElfFile::calls_stay_inside() const {
     const auto* rel = at<Elf32_Rel>(header(i)->sh_offset);
     for (size_t k = 0; k < header(i)->sh_size / sizeof *rel; ++k) {
       const auto* symbol = at<Elf32_Sym>(symbols_header->sh_offset) + ELF32_R_SYM(rel[k].r_info);
-      if (ELF32_R_SYM(rel[k].r_info) != 0 && symbol->st_shndx != SHN_UNDEF) return false;
+      if (ELF32_R_SYM(rel[k].r_info) != 0 && symbol->st_shndx != SHN_UNDEF)
+        names.insert(text(*header(int(symbols_header->sh_link)), symbol->st_name));
     }
   }
-  return true;
+  return names;
 }
 
 }  // namespace orb::test

@@ -23,7 +23,8 @@ class ElfFile {
   std::set<std::string> exported() const;             // defined dynamic symbols
   std::set<std::string> undefined() const;            // undefined dynamic symbols
   std::vector<std::string> versions_defined() const;  // symbol versions that the object defines
-  bool calls_stay_inside() const;  // no relocation of a procedure linkage slot names an own symbol
+  std::set<std::string> replaceable() const;          // own symbols that a relocation names
+  bool calls_stay_inside() const { return replaceable().empty(); }
 
  private:
   template <class T>

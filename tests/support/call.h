@@ -6,7 +6,6 @@
 #include <string.h>
 
 #include <type_traits>
-#include <vector>
 
 #include "gtest/gtest.h"
 
@@ -22,30 +21,34 @@ struct ControlWords {
 };
 ControlWords control_words();
 
-template <class T>
-void push_argument(std::vector<uint32_t>& words, T value) {
-  static_assert(sizeof(T) % 4 == 0);
-  uint32_t w[sizeof(T) / 4];
-  memcpy(w, &value, sizeof value);
-  words.insert(words.end(), w, w + sizeof(T) / 4);
-}
+struct Words {
+  uint32_t at[32];
+  int count = 0;
+
+  template <class T>
+  void push(T value) {
+    static_assert(sizeof(T) % 4 == 0);
+    memcpy(at + count, &value, sizeof value);
+    count += int(sizeof(T) / 4);
+  }
+};
 
 template <class R, class... P, class... A>
 R call(R (*f)(P...), A... arguments) {
   static_assert(sizeof...(P) == sizeof...(A));
   static int turn = 0;
   const int skew = 4 * (turn++ % 4);
-  std::vector<uint32_t> words;
-  (push_argument<P>(words, arguments), ...);
+  Words words;
+  (words.push<P>(arguments), ...);
   const ControlWords before = control_words();
   const auto enter = reinterpret_cast<R (*)(void*, const uint32_t*, int, int)>(
       reinterpret_cast<void*>(&orb_test_call_words));
   const auto check = [&] { EXPECT_TRUE(control_words() == before) << "control words or x87 stack changed"; };
   if constexpr (std::is_void_v<R>) {
-    enter(reinterpret_cast<void*>(f), words.data(), int(words.size()), skew);
+    enter(reinterpret_cast<void*>(f), words.at, words.count, skew);
     check();
   } else {
-    const R result = enter(reinterpret_cast<void*>(f), words.data(), int(words.size()), skew);
+    const R result = enter(reinterpret_cast<void*>(f), words.at, words.count, skew);
     check();
     return result;
   }

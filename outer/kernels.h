@@ -1,0 +1,35 @@
+// The way into the kernel library: call<orb_blas_xddot>(n, x, incx, y, incy).
+#pragma once
+
+#include <atomic>
+
+#include "orb/blas_gemm.h"
+#include "orb/blas_level1.h"
+#include "outer/boundary.h"
+
+namespace orb {
+
+// Where the kernel `entry` stands. Until the kernel library is loaded this is a stand-in that loads it, fills
+// in all kernels of kernels.def and goes on into the right one; afterwards a call is one indirect jump.
+template <auto* entry>
+struct __attribute__((visibility("hidden"))) Kernel {
+  static std::atomic<decltype(entry)> address;
+};
+#define ORB_KERNEL(name) \
+  template <>            \
+  std::atomic<decltype(&name)> Kernel<name>::address;
+#include "outer/kernels.def"
+#undef ORB_KERNEL
+
+// Relaxed: the address is all that one thread hands to another here. What it points to was complete before it
+// was stored, and this processor keeps stores in order.
+template <auto* entry>
+ORB_INLINE auto kernel() {
+  return Kernel<entry>::address.load(std::memory_order_relaxed);
+}
+template <auto* entry, class... A>
+ORB_INLINE auto call(A... arguments) {
+  return kernel<entry>()(arguments...);
+}
+
+}  // namespace orb
