@@ -1,9 +1,10 @@
 #include "bench/chart.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <map>
+
+#include "tour/gnuplot.h"
 
 namespace orb::bench {
 namespace {
@@ -110,7 +111,7 @@ void draw_charts(const std::filesystem::path& folder, const std::vector<Result>&
     std::ofstream out(script);
     write_script(out, picture, family, libraries);
     out.close();
-    if (std::system(("gnuplot '" + script.string() + "' 2>/dev/null").c_str()) == 0)
+    if (tour::run_gnuplot(script) == tour::Drawn::yes)
       std::printf("chart: %s\n", picture.c_str());
     else
       std::printf("no chart of %s: gnuplot is missing or failed; its script is %s\n", name.c_str(),

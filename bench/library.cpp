@@ -58,7 +58,12 @@ std::optional<Library> Library::open(const std::string& name, const std::string&
 void* Library::address(const std::string& symbol) const { return dlsym(handle_, symbol.c_str()); }
 
 std::string Library::own_version() const {
-  for (const char* entry : {"orb_version", "openblas_get_config", "bli_info_get_version_str"})
+  if (auto write = find<void(char*, int)>("orb_serv_getversionstring_c")) {
+    char text[199] = {};
+    write(text, 198);
+    return text;
+  }
+  for (const char* entry : {"openblas_get_config", "bli_info_get_version_str"})
     if (auto tell = find<const char*()>(entry)) {
       std::string text = tell();
       if (auto core = find<const char*()>("openblas_get_corename")) text += std::string(", ") + core();
@@ -68,6 +73,8 @@ std::string Library::own_version() const {
   return std::filesystem::canonical(path, ignored).filename();
 }
 
+// All are opened, and their names bound, before the first routine is called: what one makes visible then is
+// too late to be taken for another's.
 Libraries open_libraries(const std::string& path, const std::vector<Peer>& more, int threads) {
   set_thread_count(threads);
   Libraries all;
