@@ -122,6 +122,9 @@ Map rebuilt_map(Report& report, const Matrix& heights, const Matrix& means, cons
 void dense(Tour& tour) {
   const auto file = tour.data / "maunga-whau-elevation.csv";
   const Matrix heights = read_csv(file);
+  if (std::min(heights.rows, heights.columns) <= components_wanted)
+    throw BadFile(file.string() + text(": a map of more than %d x %d heights is needed", components_wanted,
+                                       components_wanted));
   describe(tour.report, heights, file.string());
   const Matrix means = column_means(heights), x = difference(heights, means);
 

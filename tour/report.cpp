@@ -10,7 +10,7 @@ constexpr std::size_t page_width = 100;
 }
 
 std::string text(const char* format, ...) {
-  char buffer[512];
+  char buffer[1024];
   va_list values;
   va_start(values, format);
   std::vsnprintf(buffer, sizeof buffer, format, values);
