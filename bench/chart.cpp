@@ -22,13 +22,17 @@ void remember(std::vector<std::string>& list, const std::string& item) {
 
 std::map<std::string, Family> families_of(const std::vector<Result>& results) {
   std::map<std::string, Family> families;
+  std::map<std::string, Curve> curves;
   for (const Result& result : results) {
     const Case& subject = *result.subject;
     if (!subject.abscissa) continue;
+    Curve& curve = curves[subject.type + subject.routine];
+    curve.push_back(&result);
+    if (curve.size() < 2) continue;  // a point is no curve
     Family& family = families[subject.family];
     remember(family.routines, subject.routine);
     remember(family.types, subject.type);
-    family.curves[subject.type + subject.routine].push_back(&result);
+    family.curves[subject.type + subject.routine] = curve;
   }
   return families;
 }

@@ -8,10 +8,12 @@
 #include "bench/engine.h"
 #include "bench/report.h"
 #include "bench/results_file.h"
+#include "tour/progress.h"
 
 namespace {
 
 using namespace orb::bench;
+namespace tour = orb::tour;
 
 std::vector<Case> chosen_cases(const Options& options) {
   const std::regex pattern(options.filter);
@@ -30,12 +32,12 @@ std::vector<Result> run_all(const std::vector<Case>& cases, const Libraries& lib
   std::shuffle(order.begin(), order.end(), std::mt19937(options.seed));
   std::vector<Result> results(cases.size());
   Engine engine(options);
+  tour::Progress progress("measuring");
   std::size_t done = 0;
   for (std::size_t i : order) {
-    std::fprintf(stderr, "\r%4zu of %zu  %-48s", ++done, cases.size(), cases[i].name().c_str());
+    progress.at(std::to_string(++done) + " of " + std::to_string(cases.size()) + ", " + cases[i].name());
     results[i] = engine.run(cases[i], libraries.open);
   }
-  std::fprintf(stderr, "\r%-64s\r", "");
   return results;
 }
 
@@ -44,6 +46,7 @@ int run(Options options) {
   const Libraries libraries = open_libraries(options.library, options.peers, options.threads);
   const std::vector<std::string> heading = describe_run(libraries, options);
   for (const std::string& line : heading) std::printf("%s\n", line.c_str());
+  std::fflush(stdout);
   const std::vector<Case> cases = chosen_cases(options);
   if (cases.empty() || libraries.open.empty()) {
     std::fprintf(stderr, "orb-bench: there is nothing to measure\n");

@@ -1,5 +1,7 @@
-// Time, and a sign of life for whoever waits: work that takes longer than two seconds shows how far it is.
+// Time, and a sign of life for whoever waits: long work shows how far it is.
 #pragma once
+
+#include <unistd.h>
 
 #include <chrono>
 #include <cstdio>
@@ -20,23 +22,28 @@ class Progress {
  public:
   explicit Progress(std::string work) : work_(std::move(work)) {}
   ~Progress() {
-    if (shown_ > 0) std::fprintf(stderr, "\r%60s\r", "");
+    if (live_ && shown_ > 0) std::fprintf(stderr, "\r%*s\r", width, "");
   }
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  // Says where the work is, every two seconds at most.
+  // Says where the work is, every two seconds at most: in one line of a terminal, or seldom in lines of a
+  // log.
   void at(const std::string& place) {
     const double now = watch_.seconds();
-    if (now < shown_ + 2) return;
+    if (now < shown_ + (live_ ? 2 : 20)) return;
     shown_ = now;
-    std::fprintf(stderr, "\r  ... %s: %s, %.0f s ", work_.c_str(), place.c_str(), now);
+    char line[width + 1];
+    std::snprintf(line, sizeof line, "  ... %.0f s, %s: %s", now, work_.c_str(), place.c_str());
+    std::fprintf(stderr, live_ ? "\r%-*s" : "%.*s\n", width, line);
   }
 
  private:
+  static constexpr int width = 90;
   std::string work_;
   Stopwatch watch_;
   double shown_ = 0;
+  bool live_ = isatty(STDERR_FILENO);
 };
 
 }  // namespace orb::tour
