@@ -172,8 +172,7 @@ void orb_blas_xzdrot(const int* n, orb_complex_double* x, const int* incx, orb_c
 
 /** Makes a rotation: c and s with c a + s b = r, c b - s a = 0, c^2 + s^2 = 1. Reads a and b; writes r to
  *  a, c, s and to b the value z from which both can be told: s if |a| > |b|, else 1/c, or 1 if c is 0. a =
- *  b = 0 gives c = 1, s = r = z = 0. Source: Lawson, Hanson, Kincaid, Krogh, ACM TOMS 5 (1979) 308-323. @{
- * @{ */
+ *  b = 0 gives c = 1, s = r = z = 0. Source: Lawson, Hanson, Kincaid, Krogh, ACM TOMS 5 (1979) 308-323. @{ */
 void orb_blas_srotg(float* a, float* b, float* c, float* s);
 void orb_blas_drotg(double* a, double* b, double* c, double* s);
 /** @} */
@@ -193,8 +192,11 @@ void orb_blas_drotm(const int* n, double* x, const int* incx, double* y, const i
 /** @} */
 
 /** Makes a modified rotation that clears the second component of (sqrt(d1) x1, sqrt(d2) y1). Reads and
- *  writes d1, d2, x1, reads y1, writes the flag and the entries of H that it calls for to param[0 .. 4]. @{
- * @{ */
+ *  writes d1, d2, x1, reads y1, writes the flag and the entries of H that it calls for to param[0 .. 4].
+ *  d2 y1 == 0 gives flag -2 and changes nothing else. d1 < 0, and a negative d2 that leaves no real rotation,
+ *  give flag -1 with d1, d2, x1 and all of H zero. d1 and d2 are kept within 2^-24 ... 2^24 by powers of
+ *  2^24, which also makes the flag -1. Ends for every input; NaN and infinities are handed on. Source: as
+ *  rotg. @{ */
 void orb_blas_srotmg(float* d1, float* d2, float* x1, const float* y1, float* param);
 void orb_blas_drotmg(double* d1, double* d2, double* x1, const double* y1, double* param);
 /** @} */
@@ -278,7 +280,7 @@ void orb_blas_zgthr(const int* nz, const orb_complex_double* y, orb_complex_doub
 /** @} */
 
 /** x[i] = y[indx[i]], then y[indx[i]] = 0, entry by entry: a repeated place gives 0 on its second visit. @{
- * @{ */
+ */
 void orb_blas_sgthrz(const int* nz, float* y, float* x, const int* indx);
 void orb_blas_dgthrz(const int* nz, double* y, double* x, const int* indx);
 void orb_blas_cgthrz(const int* nz, orb_complex_float* y, orb_complex_float* x, const int* indx);
@@ -292,8 +294,7 @@ void orb_blas_csctr(const int* nz, const orb_complex_float* x, const int* indx, 
 void orb_blas_zsctr(const int* nz, const orb_complex_double* x, const int* indx, orb_complex_double* y);
 /** @} */
 
-/** x[i], y[indx[i]] = c x[i] + s y[indx[i]], c y[indx[i]] - s x[i]. c == 1 with s == 0 returns at once. @{
- * @{ */
+/** x[i], y[indx[i]] = c x[i] + s y[indx[i]], c y[indx[i]] - s x[i]. c == 1 with s == 0 returns at once. @{ */
 void orb_blas_sroti(const int* nz, float* x, const int* indx, float* y, const float* c, const float* s);
 void orb_blas_droti(const int* nz, double* x, const int* indx, double* y, const double* c, const double* s);
 /** @} */

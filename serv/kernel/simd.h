@@ -9,7 +9,7 @@
 //   widen           singles from any address as doubles
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
 //   each            elements from any address, each the factor of its own element
-//   evens, odds     each lane of even, of odd number into both lanes of its pair
+//   dup_even        each lane of even number into both lanes of its pair; dup_odd: each of odd number
 //   not_le          lanes of ones where !(a <= b), as for NaN; zeros elsewhere; any() asks for a set lane
 //   sums            sum() of four registers, side by side in one
 //   transpose       exchanges rows and columns of a 4 by 4 block of singles, a 2 by 2 block of doubles
@@ -56,8 +56,8 @@ struct f64x2 {
   }
   static ORB_INLINE f64x2 each(const double* p) { return loadu(p); }
   static ORB_INLINE f64x2 twice(const double* p) { return splat(*p); }
-  ORB_INLINE f64x2 evens() const { return low_halves(*this, *this); }
-  ORB_INLINE f64x2 odds() const { return high_halves(*this, *this); }
+  ORB_INLINE f64x2 dup_even() const { return low_halves(*this, *this); }
+  ORB_INLINE f64x2 dup_odd() const { return high_halves(*this, *this); }
   ORB_INLINE f64x2 swap_halves() const { return {_mm_shuffle_pd(v, v, 1)}; }
   // (a0, b0) and (a1, b1)
   static ORB_INLINE f64x2 even(f64x2 a, f64x2 b) { return {_mm_unpacklo_pd(a.v, b.v)}; }
@@ -123,8 +123,8 @@ struct f32x4 {
     const __m128 pair = load_pair(p).v;
     return {_mm_unpacklo_ps(pair, pair)};
   }
-  ORB_INLINE f32x4 evens() const { return {_mm_moveldup_ps(v)}; }
-  ORB_INLINE f32x4 odds() const { return {_mm_movehdup_ps(v)}; }
+  ORB_INLINE f32x4 dup_even() const { return {_mm_moveldup_ps(v)}; }
+  ORB_INLINE f32x4 dup_odd() const { return {_mm_movehdup_ps(v)}; }
   // exchanges the two lanes of each complex pair
   ORB_INLINE f32x4 swap_pairs() const { return {_mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1))}; }
   // (a0, a2, b0, b2) and (a1, a3, b1, b3)

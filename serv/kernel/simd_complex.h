@@ -58,7 +58,7 @@ struct ComplexVector {
   static ORB_INLINE RealFactor<ComplexVector> splat(real_of<C> a) { return {Register::splat(a)}; }
   static ORB_INLINE Factor<ComplexVector> each(const C* p) {
     const Register numbers = Register::loadu(&p->re);
-    return {numbers.evens(), numbers.odds()};
+    return {numbers.dup_even(), numbers.dup_odd()};
   }
   static ORB_INLINE RealFactor<ComplexVector> each(const real_of<C>* p) { return {Register::twice(p)}; }
   static ORB_INLINE ComplexVector load(const C* p) { return {Register::load(&p->re)}; }

@@ -15,7 +15,7 @@ namespace orb::test {
 
 template <class T>
 bool same(T a, T b) {
-  if constexpr (ComplexElement<T>)
+  if constexpr (is_complex<T>)
     return same(a.re, b.re) && same(a.im, b.im);
   else
     return memcmp(&a, &b, sizeof a) == 0 || (a != a && b != b);
@@ -23,7 +23,7 @@ bool same(T a, T b) {
 
 template <class T>
 std::string shown(T x) {
-  if constexpr (ComplexElement<T>)
+  if constexpr (is_complex<T>)
     return testing::PrintToString(std::pair(x.re, x.im));
   else
     return testing::PrintToString(x);
@@ -31,7 +31,7 @@ std::string shown(T x) {
 
 // `got` is an array with data() and size().
 template <class Array, class T>
-testing::AssertionResult same_bits(const Array& got, const std::vector<T>& want) {
+testing::AssertionResult same_elements(const Array& got, const std::vector<T>& want) {
   if (size_t(got.size()) != want.size()) return testing::AssertionFailure() << "sizes differ";
   for (size_t i = 0; i < want.size(); ++i)
     if (!same(got.data()[i], want[i]))

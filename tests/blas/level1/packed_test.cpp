@@ -35,7 +35,7 @@ struct Entry<double> {
   static constexpr auto doti = orb_blas_ddoti;
 };
 template <>
-struct Entry<orb_complex_float> {
+struct Entry<c32> {
   static constexpr auto axpyi = orb_blas_caxpyi;
   static constexpr auto gthr = orb_blas_cgthr;
   static constexpr auto gthrz = orb_blas_cgthrz;
@@ -44,7 +44,7 @@ struct Entry<orb_complex_float> {
   static constexpr auto dotci = orb_blas_cdotci;
 };
 template <>
-struct Entry<orb_complex_double> {
+struct Entry<c64> {
   static constexpr auto axpyi = orb_blas_zaxpyi;
   static constexpr auto gthr = orb_blas_zgthr;
   static constexpr auto gthrz = orb_blas_zgthrz;
@@ -84,8 +84,8 @@ struct Run {
   T& at_place(int i) { return model_y[size_t(indx[i] - 1)]; }
   T& at(int i) { return model_x[size_t(i)]; }
   void check() {
-    ASSERT_TRUE(same_bits(x, model_x)) << "x";
-    ASSERT_TRUE(same_bits(y, model_y)) << "y";
+    ASSERT_TRUE(same_elements(x, model_x)) << "x";
+    ASSERT_TRUE(same_elements(y, model_y)) << "y";
   }
 };
 
@@ -103,14 +103,14 @@ void for_runs(Body body) {
 
 template <class T>
 class Packed : public testing::Test {};
-using Types = testing::Types<float, double, orb_complex_float, orb_complex_double>;
+using Types = testing::Types<float, double, c32, c64>;
 TYPED_TEST_SUITE(Packed, Types);
 
 TYPED_TEST(Packed, Axpyi) {
   using T = TypeParam;
   const T alpha = value<T>(8);
   for_runs<T>([&](Run<T>& r) {
-    for (int i = 0; i < r.n; ++i) r.at_place(i) = add(r.at_place(i), mul(alpha, r.at(i)));
+    for (int i = 0; i < r.n; ++i) r.at_place(i) = add(r.at_place(i), multiply(alpha, r.at(i)));
     call(Entry<T>::axpyi, &r.n, &alpha, r.x.data(), r.indx.data(), r.y.data());
     r.check();
   });
@@ -119,10 +119,10 @@ TYPED_TEST(Packed, Axpyi) {
 TYPED_TEST(Packed, AxpyiWithZeroAlphaTouchesNothing) {
   using T = TypeParam;
   Run<T> r(9, orders[0].place, 0, 0);
-  for (T alpha : {T{}, sub(T{}, T{}), mul(T{}, value<T>(0))}) {  // zeros of both signs
-    memset(r.x.data(), 0xFF, 9 * sizeof(T));                     // NaN
+  for (T alpha : {T{}, subtract(T{}, T{}), multiply(T{}, value<T>(0))}) {  // zeros of both signs
+    memset(r.x.data(), 0xFF, 9 * sizeof(T));                               // NaN
     call(Entry<T>::axpyi, &r.n, &alpha, r.x.data(), r.indx.data(), r.y.data());
-    EXPECT_TRUE(same_bits(r.y, r.model_y));
+    EXPECT_TRUE(same_elements(r.y, r.model_y));
   }
 }
 
@@ -165,17 +165,17 @@ TYPED_TEST(Packed, Dots) {
   using T = TypeParam;
   for_runs<T>([](Run<T>& r) {
     const int* n = &r.n;
-    if constexpr (ComplexElement<T>) {
+    if constexpr (is_complex<T>) {
       T u = value<T>(1), c = value<T>(1);
       call(Entry<T>::dotui, &u, n, r.x.data(), r.indx.data(), r.y.data());
       call(Entry<T>::dotci, &c, n, r.x.data(), r.indx.data(), r.y.data());
-      const T want_u = dot_model<T>(r.n, [&](int i) { return mul(r.at(i), r.at_place(i)); });
-      const T want_c = dot_model<T>(r.n, [&](int i) { return mul(conj(r.at(i)), r.at_place(i)); });
+      const T want_u = dot_model<T>(r.n, [&](int i) { return multiply(r.at(i), r.at_place(i)); });
+      const T want_c = dot_model<T>(r.n, [&](int i) { return multiply(conjugate(r.at(i)), r.at_place(i)); });
       ASSERT_TRUE(same(u, want_u)) << shown(u) << " " << shown(want_u);
       ASSERT_TRUE(same(c, want_c)) << shown(c) << " " << shown(want_c);
     } else {
       const T got = call(Entry<T>::doti, n, r.x.data(), r.indx.data(), r.y.data());
-      const T want = dot_model<T>(r.n, [&](int i) { return mul(r.at(i), r.at_place(i)); });
+      const T want = dot_model<T>(r.n, [&](int i) { return multiply(r.at(i), r.at_place(i)); });
       ASSERT_TRUE(same(got, want)) << got << " " << want;
     }
     r.check();

@@ -1,4 +1,4 @@
-// Vectors of any stride and place for the level-1 tests, the shapes to try, and plain scalar arithmetic.
+// Vectors of any stride and place for the level-1 tests, and the shapes to try.
 #pragma once
 
 #include <limits.h>
@@ -12,29 +12,11 @@
 #include "gtest/gtest.h"
 #include "orb/blas_level1.h"
 #include "tests/support/call.h"
+#include "tests/support/element.h"
 #include "tests/support/guarded.h"
 
 namespace orb::test {
 
-using c32 = orb_complex_float;
-using c64 = orb_complex_double;
-
-template <class T>
-struct PartOf {
-  using type = T;
-};
-template <>
-struct PartOf<c32> {
-  using type = float;
-};
-template <>
-struct PartOf<c64> {
-  using type = double;
-};
-template <class T>
-using part_of = typename PartOf<T>::type;
-template <class T>
-constexpr bool is_complex = sizeof(T) == 2 * sizeof(part_of<T>);
 template <class T>
 constexpr int parts = is_complex<T> ? 2 : 1;
 
@@ -42,23 +24,6 @@ constexpr int parts = is_complex<T> ? 2 : 1;
 template <class T>
 const part_of<T>* as_parts(const T* x) {
   return reinterpret_cast<const part_of<T>*>(x);
-}
-
-template <class T>
-T add(T a, T b) {
-  if constexpr (is_complex<T>)
-    return {a.re + b.re, a.im + b.im};
-  else
-    return a + b;
-}
-template <class A, class T>
-T multiply(A a, T b) {
-  if constexpr (is_complex<A>)
-    return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
-  else if constexpr (is_complex<T>)
-    return {a * b.re, a * b.im};
-  else
-    return a * b;
 }
 
 template <class T>

@@ -8,7 +8,7 @@
 
 using orb::test::call;
 using orb::test::Guarded;
-using orb::test::same_bits;
+using orb::test::same_elements;
 
 namespace {
 
@@ -78,7 +78,7 @@ TEST(SubtractTile, EveryShape) {
                 e, t.depth, [&](int k) { return tile[tile_at(t.depth, i, k)]; }, &b[j * ldb]);
           }
         call(t.subtract, &n, tile.data(), nullptr, b.data(), &ldb, c.data(), &ldc);
-        ASSERT_TRUE(same_bits(c, expected))
+        ASSERT_TRUE(same_elements(c, expected))
             << t.rows << "x" << t.depth << (t.aligned ? " aligned" : " unaligned") << " n " << n << " places "
             << l.place_b << " " << l.place_c << " ldb " << ldb << " ldc " << ldc;
       }
@@ -103,7 +103,7 @@ TEST(SubtractTile, WalkersTakeRowsInFours) {
               e = subtracted(e, k, row, &b[j * ldb]);
             }
           call(w.walk, &m, &n, a.data(), &lda, b.data(), &ldb, c.data(), &ldc, buf.data());
-          ASSERT_TRUE(same_bits(c, expected))
+          ASSERT_TRUE(same_elements(c, expected))
               << (w.transposed ? "tn " : "nn ") << k << (w.aligned ? " aligned" : " unaligned") << " m " << m
               << " n " << n << " places " << l.place_b << " " << l.place_c << " ldb " << ldb;
         }
@@ -124,7 +124,7 @@ TEST(SubtractTile, PackingPutsEveryElementInItsPlace) {
               expected[size_t(tile_at(k, i, p))] = transposed ? a[p + i * lda] : a[i + p * lda];
           call(transposed ? orb_blas_dgtrat_dtrsm : orb_blas_dgtran_dtrsm, a.data(), &lda, &rows, &k,
                buf.data());
-          ASSERT_TRUE(same_bits(buf, expected))
+          ASSERT_TRUE(same_elements(buf, expected))
               << (transposed ? "dgtrat " : "dgtran ") << rows << " by " << k << " place " << place;
         }
 }
