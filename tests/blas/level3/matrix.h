@@ -18,8 +18,8 @@ namespace orb::test {
 template <class T>
 class Matrix {
  public:
-  Matrix(int rows, int cols, int ld, int place = -1)
-      : rows(rows), cols(cols), ld(ld), data_(rows && cols ? (cols - 1) * ld + rows : 0, place) {
+  Matrix(int height, int width, int distance, int place = -1)
+      : rows(height), cols(width), ld(distance), data_(rows && cols ? (cols - 1) * ld + rows : 0, place) {
     std::fill(data_.begin(), data_.end(), T(NAN));
   }
   T* data() const { return data_.data(); }
