@@ -10,6 +10,7 @@
 
 ORB_BEGIN_DECLS
 
+/** @{ */
 /** C = alpha op(A) op(B) + beta C, op(A) m by k, op(B) k by n, C m by n. N or n in `transa`, `transb` takes
  *  a matrix as it stands, any other letter its transpose. C may not overlap A or B. m <= 0 or n <= 0 returns
  *  at once; alpha == 0 does not read A and B, and with beta == 1 touches nothing; beta == 0 does not read C.
@@ -22,7 +23,7 @@ ORB_BEGIN_DECLS
  *  block has 1024 min(n, 2000) + 551168 bytes, at alignment 128.
  *
  *  Source: K. Goto, R. van de Geijn, Anatomy of high-performance matrix multiplication, ACM TOMS 34 (2008).
- * @{ */
+ * */
 void orb_blas_xdgemm(const char* transa, const char* transb, const int* m, const int* n, const int* k,
                      const double* alpha, const double* a, const int* lda, const double* b, const int* ldb,
                      const double* beta, double* c, const int* ldc);
@@ -31,6 +32,7 @@ void orb_blas_xsgemm(const char* transa, const char* transb, const int* m, const
                      const float* beta, float* c, const int* ldc);
 /** @} */
 
+/** @{ */
 /** The small path: the same product for any shape, straight from the unpacked matrices, without scratch.
  *  Negative k acts as 0. alpha == 0 is no special case. beta == 0 does not read C.
  *
@@ -41,7 +43,7 @@ void orb_blas_xsgemm(const char* transa, const char* transb, const int* m, const
  *  From nine on, eight terms a round go to the sums s0 to s7, added in the end as
  *  ((s0 + s4) + (s2 + s6)) + ((s1 + s5) + (s3 + s7)), and the terms left over follow in rising k. If B stands
  *  plain, the terms in front of its column's first 16-byte boundary come before the rounds, in rising k, and
- *  start s0; a column whose elements meet no boundary is one sum in rising k. @{ */
+ *  start s0; a column whose elements meet no boundary is one sum in rising k. */
 void orb_blas_dgemmpst(const char* transa, const char* transb, const int* m, const int* n, const int* k,
                        const double* alpha, const double* a, const int* lda, const double* b, const int* ldb,
                        const double* beta, double* c, const int* ldc);
@@ -54,7 +56,8 @@ void orb_blas_sgemmpst(const char* transa, const char* transb, const int* m, con
 void orb_blas_dzerom(const int* m, const int* n, double* c, const int* ldc);
 /** C = beta C, C m by n; a beta of 0 keeps NaN and infinity as NaN. */
 void orb_blas_dscalm(const int* m, const int* n, const double* beta, double* c, const int* ldc);
-/** C = beta C, C m by n; for beta == 0, C = 0 without reading C. @{ */
+/** @{ */
+/** C = beta C, C m by n; for beta == 0, C = 0 without reading C. */
 void orb_blas_dgemm_mscale(const int* m, const int* n, const double* beta, double* c, const int* ldc);
 void orb_blas_sgemm_mscale(const int* m, const int* n, const float* beta, float* c, const int* ldc);
 /** @} */

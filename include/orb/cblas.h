@@ -20,38 +20,49 @@
 
 ORB_BEGIN_DECLS
 
+/** How matrices lie in memory: rows one behind the other, or columns. */
 typedef enum CBLAS_LAYOUT { CblasRowMajor = 101, CblasColMajor = 102 } CBLAS_LAYOUT;
+/** op(A): A, its transpose, its conjugate transpose. */
 typedef enum CBLAS_TRANSPOSE { CblasNoTrans = 111, CblasTrans = 112, CblasConjTrans = 113 } CBLAS_TRANSPOSE;
+/** Which triangle of a matrix is read. */
 typedef enum CBLAS_UPLO { CblasUpper = 121, CblasLower = 122 } CBLAS_UPLO;
+/** Is the diagonal read, or taken as ones? */
 typedef enum CBLAS_DIAG { CblasNonUnit = 131, CblasUnit = 132 } CBLAS_DIAG;
+/** On which side the triangular or symmetric matrix stands. */
 typedef enum CBLAS_SIDE { CblasLeft = 141, CblasRight = 142 } CBLAS_SIDE;
+/** The older name of CBLAS_LAYOUT. */
 typedef CBLAS_LAYOUT CBLAS_ORDER;
+/** A place in a vector, counted from 0. */
 typedef size_t CBLAS_INDEX;
 
-/** @name Vectors @{ */
+/* Vectors */
 
-/** y += alpha x; alpha == 0 returns at once. @{ */
+/** @{ */
+/** y += alpha x; alpha == 0 returns at once. */
 void cblas_saxpy(int n, float alpha, const float* x, int incx, float* y, int incy);
 void cblas_daxpy(int n, double alpha, const double* x, int incx, double* y, int incy);
 void cblas_caxpy(int n, const void* alpha, const void* x, int incx, void* y, int incy);
 void cblas_zaxpy(int n, const void* alpha, const void* x, int incx, void* y, int incy);
 /** @} */
 
-/** Sum of x[i] y[i]; dsdot and sdsdot sum in double, sdsdot from sb on. @{ */
+/** @{ */
+/** Sum of x[i] y[i]; dsdot and sdsdot sum in double, sdsdot from sb on. */
 float cblas_sdot(int n, const float* x, int incx, const float* y, int incy);
 double cblas_ddot(int n, const double* x, int incx, const double* y, int incy);
 double cblas_dsdot(int n, const float* x, int incx, const float* y, int incy);
 float cblas_sdsdot(int n, float sb, const float* x, int incx, const float* y, int incy);
 /** @} */
 
-/** *result = sum of x[i] y[i] (`u`) or of conj(x[i]) y[i] (`c`). @{ */
+/** @{ */
+/** *result = sum of x[i] y[i] (`u`) or of conj(x[i]) y[i] (`c`). */
 void cblas_cdotu_sub(int n, const void* x, int incx, const void* y, int incy, void* result);
 void cblas_cdotc_sub(int n, const void* x, int incx, const void* y, int incy, void* result);
 void cblas_zdotu_sub(int n, const void* x, int incx, const void* y, int incy, void* result);
 void cblas_zdotc_sub(int n, const void* x, int incx, const void* y, int incy, void* result);
 /** @} */
 
-/** x = alpha x. @{ */
+/** @{ */
+/** x = alpha x. */
 void cblas_sscal(int n, float alpha, float* x, int incx);
 void cblas_dscal(int n, double alpha, double* x, int incx);
 void cblas_cscal(int n, const void* alpha, void* x, int incx);
@@ -60,36 +71,40 @@ void cblas_csscal(int n, float alpha, void* x, int incx);
 void cblas_zdscal(int n, double alpha, void* x, int incx);
 /** @} */
 
-/** y = x. @{ */
+/** @{ */
+/** y = x. */
 void cblas_scopy(int n, const float* x, int incx, float* y, int incy);
 void cblas_dcopy(int n, const double* x, int incx, double* y, int incy);
 void cblas_ccopy(int n, const void* x, int incx, void* y, int incy);
 void cblas_zcopy(int n, const void* x, int incx, void* y, int incy);
 /** @} */
 
-/** Exchanges x and y. @{ */
+/** @{ */
+/** Exchanges x and y. */
 void cblas_sswap(int n, float* x, int incx, float* y, int incy);
 void cblas_dswap(int n, double* x, int incx, double* y, int incy);
 void cblas_cswap(int n, void* x, int incx, void* y, int incy);
 void cblas_zswap(int n, void* x, int incx, void* y, int incy);
 /** @} */
 
-/** Sum of |x[i]|, for complex elements of |re| + |im|. @{ */
+/** @{ */
+/** Sum of |x[i]|, for complex elements of |re| + |im|. */
 float cblas_sasum(int n, const float* x, int incx);
 double cblas_dasum(int n, const double* x, int incx);
 float cblas_scasum(int n, const void* x, int incx);
 double cblas_dzasum(int n, const void* x, int incx);
 /** @} */
 
-/** Euclidean norm. @{ */
+/** @{ */
+/** Euclidean norm. */
 float cblas_snrm2(int n, const float* x, int incx);
 double cblas_dnrm2(int n, const double* x, int incx);
 float cblas_scnrm2(int n, const void* x, int incx);
 double cblas_dznrm2(int n, const void* x, int incx);
 /** @} */
 
-/** Place, from 0, of the first of the largest (`amax`) or smallest (`amin`) |x[i]|, complex |re| + |im|. @{
- */
+/** @{ */
+/** Place, from 0, of the first of the largest (`amax`) or smallest (`amin`) |x[i]|, complex |re| + |im|. */
 CBLAS_INDEX cblas_isamax(int n, const float* x, int incx);
 CBLAS_INDEX cblas_idamax(int n, const double* x, int incx);
 CBLAS_INDEX cblas_icamax(int n, const void* x, int incx);
@@ -100,45 +115,46 @@ CBLAS_INDEX cblas_icamin(int n, const void* x, int incx);
 CBLAS_INDEX cblas_izamin(int n, const void* x, int incx);
 /** @} */
 
-/** |re z| + |im z|. @{ */
+/** @{ */
+/** |re z| + |im z|. */
 float cblas_scabs1(const void* z);
 double cblas_dcabs1(const void* z);
 /** @} */
 
-/** x[i], y[i] = c x[i] + s y[i], c y[i] - s x[i]. @{ */
+/** @{ */
+/** x[i], y[i] = c x[i] + s y[i], c y[i] - s x[i]. */
 void cblas_srot(int n, float* x, int incx, float* y, int incy, float c, float s);
 void cblas_drot(int n, double* x, int incx, double* y, int incy, double c, double s);
 void cblas_csrot(int n, void* x, int incx, void* y, int incy, float c, float s);
 void cblas_zdrot(int n, void* x, int incx, void* y, int incy, double c, double s);
 /** @} */
 
-/** Make a rotation: see srotg_() and crotg_(). @{ */
+/** @{ */
+/** Make a rotation: see srotg_() and crotg_(). */
 void cblas_srotg(float* a, float* b, float* c, float* s);
 void cblas_drotg(double* a, double* b, double* c, double* s);
 void cblas_crotg(void* a, void* b, float* c, void* s);
 void cblas_zrotg(void* a, void* b, double* c, void* s);
 /** @} */
 
-/** Apply and make a modified rotation: see srotm_() and srotmg_(). @{ */
+/** @{ */
+/** Apply and make a modified rotation: see srotm_() and srotmg_(). */
 void cblas_srotm(int n, float* x, int incx, float* y, int incy, const float* param);
 void cblas_drotm(int n, double* x, int incx, double* y, int incy, const double* param);
 void cblas_srotmg(float* d1, float* d2, float* x1, float y1, float* param);
 void cblas_drotmg(double* d1, double* d2, double* x1, double y1, double* param);
 /** @} */
 
-/** @} */
+/* Matrix products */
 
-/** @name Matrix products @{ */
-
-/** C = alpha op(A) op(B) + beta C; op(A) m by k, op(B) k by n, C m by n. See sgemm_(). @{ */
+/** @{ */
+/** C = alpha op(A) op(B) + beta C; op(A) m by k, op(B) k by n, C m by n. See sgemm_(). */
 void cblas_sgemm(CBLAS_LAYOUT layout, CBLAS_TRANSPOSE transa, CBLAS_TRANSPOSE transb, int m, int n, int k,
                  float alpha, const float* a, int lda, const float* b, int ldb, float beta, float* c,
                  int ldc);
 void cblas_dgemm(CBLAS_LAYOUT layout, CBLAS_TRANSPOSE transa, CBLAS_TRANSPOSE transb, int m, int n, int k,
                  double alpha, const double* a, int lda, const double* b, int ldb, double beta, double* c,
                  int ldc);
-/** @} */
-
 /** @} */
 
 /** Told of every bad argument: its place, the routine's name, and a printf text with what more there is to

@@ -1,13 +1,12 @@
 /** @file
  *  liborb.so as a whole: threads, and what the environment settles.
  *
- *  | variable          | meaning |
- *  |-------------------|---------|
- *  | `ORB_NUM_THREADS` | threads for large products, 1 to 256; read once |
- *  | `ORB_KERNEL_PATH` | the kernel library liborb_t7.so, or the directory that it lies in |
- *  | `ORB_L2_CLASS`    | second-level cache class instead of the processor's own, for tests: 3 from 1 MiB on,
- * 2 from 512 KiB, 1 below, 0 unknown | | `ORB_CPU_CLASS`   | processor class instead of the processor's own,
- * for tests: 5 with SSSE3, 4 with SSE3, else 0 |
+ *  - `ORB_NUM_THREADS`: threads for large products, 1 to 256; read once.
+ *  - `ORB_KERNEL_PATH`: the kernel library liborb_t7.so, or the directory that it lies in.
+ *  - `ORB_L2_CLASS`, for tests: the class of the second-level cache instead of the processor's own, which is
+ * 3 from 1 MiB on, 2 from 512 KiB, 1 below, 0 unknown.
+ *  - `ORB_CPU_CLASS`, for tests: the processor class instead of the processor's own, which is 5 with SSSE3, 4
+ *    with SSE3, 0 otherwise.
  *
  *  The kernel library is loaded at the first call that needs it: from ORB_KERNEL_PATH if that is set (and
  * from nowhere else then), otherwise from the directory in which liborb.so lies, otherwise from the library

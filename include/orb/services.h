@@ -12,7 +12,7 @@
 
 ORB_BEGIN_DECLS
 
-/** @name Memory @{ */
+/* Memory */
 
 /** Scratch memory for one call: `bytes` bytes, aligned at least to `alignment`, a power of two (64 and 128
  * are asked for). The dense kernels do not look for failure: it must not return a null pointer to them. */
@@ -28,12 +28,13 @@ void* orb_serv_orb_malloc(int bytes, int alignment);
 /** Gives back what orb_serv_orb_malloc() returned. A null pointer is allowed. */
 void orb_serv_orb_free(void* block);
 
-/** The C-style allocator of the signal family: variables, read anew at each call. @{ */
+/** @{ */
+/** The C-style allocator of the signal family: variables, read anew at each call. */
 extern void* (*i_malloc)(size_t bytes);
 extern void (*i_free)(void* block);
-/** @} @} */
+/** @} */
 
-/** @name Queries @{ */
+/* Queries */
 
 /** Non-zero if the characters at `a` and `b` are equal but for case. The lengths are both 1 and not read. */
 int orb_serv_lsame(const char* a, const char* b, int length_a, int length_b);
@@ -45,18 +46,20 @@ int orb_serv_cpu_detect(void);
  *  matrix products. */
 int orb_serv_l2cache(void);
 
+/** @{ */
 /** Writes the version text, at most `length` characters, to `buffer`: blank-padded for Fortran callers, ended
- *  by a zero for C callers. @{ */
+ *  by a zero for C callers. */
 void orb_serv_getversionstring(char* buffer, int length);
 void orb_serv_getversionstring_c(char* buffer, int length);
-/** @} @} */
+/** @} */
 
-/** @name The one lock of the library, held only for a moment @{ */
+/** @{ */
+/** The one lock of the library, held only for a moment */
 void orb_serv_lock(void);
 void orb_serv_unlock(void);
 /** @} */
 
-/** @name Message catalogue @{ */
+/* Message catalogue */
 
 /** The text of message `number` with its placeholders filled by `count` further values. The pointer stays
  *  valid until the calling thread asks for its next message. */
@@ -64,11 +67,11 @@ const char* orb_serv_orb_get_msg(int number, int count, ...);
 
 /** Prints message `number`, filled in likewise. `channel` is always 1. */
 void orb_serv_orb_print(int channel, int number, int count, ...);
-/** @} */
 
-/** @name Upward entries
+/** @{ */
+/** Upward entries
  *  Level-1 and level-2 BLAS as the outer layer divides it, all arguments by reference, no hidden lengths:
- *  y = alpha op(A) x + beta y, y += alpha x, and x . y. @{ */
+ *  y = alpha op(A) x + beta y, y += alpha x, and x . y. */
 void orb_blas_sgemv(const char* trans, const int* m, const int* n, const float* alpha, const float* a,
                     const int* lda, const float* x, const int* incx, const float* beta, float* y,
                     const int* incy);

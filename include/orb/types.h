@@ -4,7 +4,8 @@
 #ifndef ORB_TYPES_H
 #define ORB_TYPES_H
 
-/** Opens and closes a run of declarations with C linkage and public visibility. @{ */
+/** @{ */
+/** Opens and closes a run of declarations with C linkage and public visibility. */
 #ifdef __cplusplus
 #define ORB_BEGIN_DECLS _Pragma("GCC visibility push(default)") extern "C" {
 #define ORB_END_DECLS \
@@ -18,12 +19,14 @@
 
 /** A single-precision complex number: two adjacent floats, real part first. Arrays are interleaved. */
 typedef struct orb_complex_float {
-  float re, im;
+  float re; /**< real part */
+  float im; /**< imaginary part */
 } orb_complex_float;
 
 /** A double-precision complex number: two adjacent doubles, real part first. Arrays are interleaved. */
 typedef struct orb_complex_double {
-  double re, im;
+  double re; /**< real part */
+  double im; /**< imaginary part */
 } orb_complex_double;
 
 #endif
