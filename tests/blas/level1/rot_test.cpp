@@ -104,7 +104,7 @@ TYPED_TEST_SUITE(Rows, Types);
 TYPED_TEST(Rows, LartvGivesEveryPairItsOwnRotation) {
   using T = TypeParam;
   for_each_pair([&](Shape k) {
-    for (int incc : {1, k.incx}) {
+    for (int incc : {2, k.incx}) {
       Checked<T> x(k.n, k.incx, k.placex, 1), y(k.n, k.incy, k.placey, 2);
       const Vector<T> s(k.n, incc, k.placey, 4);
       const Vector<part_of<T>> c(k.n, incc, k.placex, 6);
