@@ -30,7 +30,7 @@ ORB_ASIDE void gemm_aside(const char* transa, const char* transb, const int* m, 
                      T* c, const int* ldc) {                                                                \
     const bool straight = *k > 0 && !orb::worth_dividing<T>(*m, *n, *k) &&                                  \
                           orb::bad_gemm_argument(transa, transb, *m, *n, *k, *lda, *ldb, *ldc) == 0;        \
-    const auto next = straight ? orb::kernel<orb::gemm_entry<T>>() : orb::gemm_aside<T>;                    \
+    const auto next = straight ? orb::gemm_kernel<T>() : orb::gemm_aside<T>;                                \
     next(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);                                     \
   }
 GEMM(sgemm_, float)

@@ -24,10 +24,14 @@ ORB_INLINE int bad_gemm_argument(const char* transa, const char* transb, int m, 
   return 0;
 }
 
+// The serial kernel.
 template <class T>
-constexpr auto* gemm_entry = &orb_blas_xsgemm;
-template <>
-constexpr auto* gemm_entry<double> = &orb_blas_xdgemm;
+ORB_INLINE auto gemm_kernel() {
+  if constexpr (sizeof(T) == 8)
+    return kernel<orb_blas_xdgemm>();
+  else
+    return kernel<orb_blas_xsgemm>();
+}
 
 // The product on as many threads as pay. The bits of the result do not depend on their number.
 void gemm_in_pieces(const char* transa, const char* transb, const int* m, const int* n, const int* k,
@@ -55,7 +59,7 @@ ORB_INLINE void gemm(const char* transa, const char* transb, const int* m, const
   if (worth_dividing<T>(*m, *n, *k))
     gemm_in_pieces(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
   else
-    call<gemm_entry<T>>(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
+    gemm_kernel<T>()(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
 }
 
 }  // namespace orb

@@ -32,9 +32,7 @@ struct Product {
   T* c;
   int ldc;
 
-  void run() const {
-    call<gemm_entry<T>>(transa, transb, &m, &n, &k, alpha, a, &lda, b, &ldb, beta, c, &ldc);
-  }
+  void run() const { gemm_kernel<T>()(transa, transb, &m, &n, &k, alpha, a, &lda, b, &ldb, beta, c, &ldc); }
   // Rows from `first` on, or columns.
   Product rows(int first, int count) const {
     Product p = *this;

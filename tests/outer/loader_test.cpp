@@ -1,11 +1,10 @@
 // Where liborb.so looks for the kernel library and what it says if it finds none that suits; the environment.
 // Each case is a process of its own.
-#include <stdlib.h>
+#include <string.h>
 #include <sys/wait.h>
 
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <string>
 
 #include "gtest/gtest.h"
@@ -87,17 +86,16 @@ TEST_F(Loader, TakesClassesAndThreadsFromTheEnvironment) {
   const struct {
     const char *environment, *text;
   } cases[] = {
-      {"ORB_L2_CLASS=2 ORB_CPU_CLASS=0 ORB_NUM_THREADS=1", "^l2 2 cpu 0 threads 1\n$"},
-      {"ORB_L2_CLASS=3 ORB_CPU_CLASS=4", "^l2 3 cpu 4 threads [0-9]+\n$"},
-      {"ORB_L2_CLASS=many",
-       "^orb: ORB_L2_CLASS is \"many\", which is no number from 0 to 99: ignored\nl2 [0-3] cpu"},
+      {"ORB_L2_CLASS=2 ORB_CPU_CLASS=0 ORB_NUM_THREADS=1", "l2 2 cpu 0 threads 1\n"},
+      {"ORB_L2_CLASS=3 ORB_CPU_CLASS=4 ORB_NUM_THREADS=3", OPENMP ? "l2 3 cpu 4 threads 3\n" : "l2 3 cpu 4"},
+      {"ORB_L2_CLASS=many", "orb: ORB_L2_CLASS is \"many\", which is no number from 0 to 99: ignored\nl2 "},
       {"ORB_NUM_THREADS=0",
-       "^(orb: ORB_NUM_THREADS is \"0\", which is no number from 1 to 256: ignored\n)?l2"},
+       OPENMP ? "orb: ORB_NUM_THREADS is \"0\", which is no number from 1 to 256: ignored\nl2 " : "l2 "},
   };
   for (const auto& c : cases) {
     const Outcome o = run(std::string(c.environment) + " " PROBE " " LIBRARY " local");
     EXPECT_EQ(o.status, 0) << c.environment;
-    EXPECT_TRUE(std::regex_search(o.text, std::regex(c.text))) << c.environment << "\n" << o.text;
+    EXPECT_EQ(o.text.compare(0, strlen(c.text), c.text), 0) << c.environment << "\n" << o.text;
   }
 }
 

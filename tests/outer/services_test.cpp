@@ -16,8 +16,6 @@ namespace {
 
 bool aligned(void* p, int alignment) { return reinterpret_cast<uintptr_t>(p) % unsigned(alignment) == 0; }
 
-// What the system's allocator has handed out beyond its heap: all blocks of half a megabyte and more.
-size_t large_blocks() { return mallinfo2().hblkhd; }
 constexpr int large = 2 << 20;
 
 TEST(Scratch, HasTheAlignmentAndRoomAskedFor) {
@@ -51,6 +49,8 @@ TEST(Scratch, GivesAThreadItsBlocksAgain) {
 }
 
 #if !defined(__SANITIZE_ADDRESS__)  // its allocator keeps no such count, and ends the process itself
+// What the system's allocator has handed out beyond its heap: all blocks of half a megabyte and more.
+size_t large_blocks() { return mallinfo2().hblkhd; }
 TEST(Scratch, KeepsNoMoreThanItsBoundsAndNothingPastItsThread) {
   const size_t before = large_blocks();
   std::thread([&] {
