@@ -3,15 +3,10 @@
 
 #include "serv/kernel/boundary.h"
 
-// An entry that does nothing but check and jump on into a kernel, with its own arguments: GCC makes no stack
-// frame for it, so that no alignment is needed and the way into the kernel costs a few instructions. Clang
-// copies the arguments by vector moves instead, and has to align. Anything more than such a jump is
-// ORB_EXPORT.
-#ifdef __clang__
-#define ORB_FACE ORB_EXPORT
-#else
+// An entry that does nothing but check and jump on into a kernel, with its own arguments: it has no stack
+// frame, so that no alignment is needed and the way into the kernel costs a few instructions. Anything more
+// is ORB_EXPORT, which aligns the stack for itself.
 #define ORB_FACE extern "C" __attribute__((visibility("default")))
-#endif
 
 // A rare or costly way out of such an entry, kept out of its code.
 #define ORB_ASIDE __attribute__((noinline, force_align_arg_pointer))
