@@ -12,6 +12,8 @@
 //   dup_even        each lane of even number into both lanes of its pair; dup_odd: each of odd number
 //   not_le          lanes of ones where !(a <= b), as for NaN; zeros elsewhere; any() asks for a set lane
 //   sums            sum() of four registers, side by side in one
+//   splat_lane      one lane into all
+//   load_first, store_first   n elements, 1 to all lanes, at any address; lanes beyond n repeat one of them
 //   transpose       exchanges rows and columns of a 4 by 4 block of singles, a 2 by 2 block of doubles
 #pragma once
 
@@ -41,6 +43,8 @@ struct f64x2 {
   static ORB_INLINE f64x2 widen(const float* p) {
     return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
   }
+  static ORB_INLINE f64x2 load_first(const double* p, int n) { return n == 1 ? splat(*p) : loadu(p); }
+  ORB_INLINE void store_first(double* p, int n) const { n == 1 ? _mm_store_sd(p, v) : storeu(p); }
   ORB_INLINE void store(double* p) const { _mm_store_pd(p, v); }
   ORB_INLINE void storeu(double* p) const { _mm_storeu_pd(p, v); }
   ORB_INLINE double first() const { return _mm_cvtsd_f64(v); }
@@ -58,6 +62,10 @@ struct f64x2 {
   static ORB_INLINE f64x2 twice(const double* p) { return splat(*p); }
   ORB_INLINE f64x2 dup_even() const { return low_halves(*this, *this); }
   ORB_INLINE f64x2 dup_odd() const { return high_halves(*this, *this); }
+  template <int lane>
+  ORB_INLINE f64x2 splat_lane() const {
+    return lane == 0 ? low_halves(*this, *this) : high_halves(*this, *this);
+  }
   ORB_INLINE f64x2 swap_halves() const { return {_mm_shuffle_pd(v, v, 1)}; }
   // (a0, b0) and (a1, b1)
   static ORB_INLINE f64x2 even(f64x2 a, f64x2 b) { return {_mm_unpacklo_pd(a.v, b.v)}; }
@@ -98,6 +106,17 @@ struct f32x4 {
     return {_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
   }
   ORB_INLINE void store_pair(float* p) const { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
+  static ORB_INLINE f32x4 load_first(const float* p, int n) {
+    if (n == 4) return loadu(p);
+    if (n == 1) return splat(*p);
+    return {_mm_movelh_ps(load_pair(p).v, splat(p[n - 1]).v)};
+  }
+  ORB_INLINE void store_first(float* p, int n) const {
+    if (n == 4) return storeu(p);
+    if (n >= 2) store_pair(p);
+    if (n == 1) _mm_store_ss(p, v);
+    if (n == 3) _mm_store_ss(p + 2, _mm_movehl_ps(v, v));
+  }
   ORB_INLINE void store(float* p) const { _mm_store_ps(p, v); }
   ORB_INLINE void storeu(float* p) const { _mm_storeu_ps(p, v); }
   ORB_INLINE float first() const { return _mm_cvtss_f32(v); }
@@ -125,6 +144,10 @@ struct f32x4 {
   }
   ORB_INLINE f32x4 dup_even() const { return {_mm_moveldup_ps(v)}; }
   ORB_INLINE f32x4 dup_odd() const { return {_mm_movehdup_ps(v)}; }
+  template <int lane>
+  ORB_INLINE f32x4 splat_lane() const {
+    return {_mm_shuffle_ps(v, v, _MM_SHUFFLE(lane, lane, lane, lane))};
+  }
   // exchanges the two lanes of each complex pair
   ORB_INLINE f32x4 swap_pairs() const { return {_mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1))}; }
   // (a0, a2, b0, b2) and (a1, a3, b1, b3)
@@ -169,27 +192,6 @@ ORB_INLINE void keep_in_registers(V (&sum)[2]) {
   asm volatile("" : "+x"(sum[0].v), "+x"(sum[1].v));
 }
 
-// Two singles, for edges: the upper half of the register repeats the lower, so it raises no exceptions of its
-// own.
-struct f32x2 {
-  using scalar = float;
-  static constexpr int lanes = 2;
-  __m128 v;
-
-  static ORB_INLINE f32x2 zero() { return {_mm_setzero_ps()}; }
-  static ORB_INLINE f32x2 splat(float a) { return {_mm_set1_ps(a)}; }
-  static ORB_INLINE f32x2 loadu(const float* p) {
-    const __m128 low = _mm_loadl_pi(_mm_setzero_ps(), reinterpret_cast<const __m64*>(p));
-    return {_mm_movelh_ps(low, low)};
-  }
-  ORB_INLINE void storeu(float* p) const { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
-  ORB_INLINE float first() const { return _mm_cvtss_f32(v); }
-
-  friend ORB_INLINE f32x2 operator+(f32x2 a, f32x2 b) { return {_mm_add_ps(a.v, b.v)}; }
-  friend ORB_INLINE f32x2 operator*(f32x2 a, f32x2 b) { return {_mm_mul_ps(a.v, b.v)}; }
-  ORB_INLINE f32x2& operator+=(f32x2 b) { return *this = *this + b; }
-};
-
 // One element under the same words.
 template <class T>
 struct Lane {
@@ -201,11 +203,16 @@ struct Lane {
   static ORB_INLINE Lane splat(T a) { return {a}; }
   static ORB_INLINE Lane load(const T* p) { return {*p}; }
   static ORB_INLINE Lane loadu(const T* p) { return {*p}; }
+  static ORB_INLINE Lane load_first(const T* p, int) { return {*p}; }
+  ORB_INLINE void store_first(T* p, int) const { *p = v; }
   static ORB_INLINE Lane each(const T* p) { return {*p}; }
   static ORB_INLINE Lane widen(const float* p) { return {T(*p)}; }
   ORB_INLINE void store(T* p) const { *p = v; }
   ORB_INLINE void storeu(T* p) const { *p = v; }
-  ORB_INLINE T first() const { return v; }
+  template <int lane>
+  ORB_INLINE Lane splat_lane() const {
+    return *this;
+  }
   ORB_INLINE T sum() const { return v; }
   ORB_INLINE Lane abs() const { return {std::abs(v)}; }
 

@@ -1,140 +1,89 @@
-// Register blocks of the small path: products with an A whose columns are contiguous. Each element of C is
-// one sum in rising k; a rule says what the sum starts from and how it reaches C.
+// Register blocks of the small path: a strip of op(A) by columns of op(B), each element one sum in rising k.
 #pragma once
 
-#include <type_traits>
-
 #include "blas/kernel/level3/small_product.h"
-#include "serv/kernel/loops.h"
 
 namespace orb::blas {
 
-// `height` rows of one column in registers, the widest register first.
-template <class T, int height>
-struct Column {
-  using V = vector_of<T>;
-  using Head = std::conditional_t<(height >= V::lanes), V, std::conditional_t<(height >= 2), f32x2, Lane<T>>>;
-  static constexpr int head = Head::lanes;
-  using Rest = Column<T, height - head>;
-  static constexpr int registers = 1 + Rest::registers;
-  Head first;
-  Rest rest;
-
-  static ORB_INLINE Column zero() { return {Head::zero(), Rest::zero()}; }
-  static ORB_INLINE Column loadu(const T* p) { return {Head::loadu(p), Rest::loadu(p + head)}; }
-  ORB_INLINE void storeu(T* p) const { first.storeu(p), rest.storeu(p + head); }
-  ORB_INLINE Column times(T factor) const { return {Head::splat(factor) * first, rest.times(factor)}; }
-  ORB_INLINE Column plus(Column x) const { return {first + x.first, rest.plus(x.rest)}; }
-  // += x * factor, all lanes of `factor` being equal
-  template <class Factor>
-  ORB_INLINE void add_product(Column x, Factor factor) {
-    if constexpr (std::is_same_v<Head, Lane<T>>)
-      first += x.first * Lane<T>{factor.first()};
-    else
-      first += x.first * Head{factor.v};
-    rest.add_product(x.rest, factor);
-  }
-};
-template <class T>
-struct Column<T, 0> {
-  static constexpr int registers = 0;
-  static ORB_INLINE Column zero() { return {}; }
-  static ORB_INLINE Column loadu(const T*) { return {}; }
-  ORB_INLINE void storeu(T*) const {}
-  ORB_INLINE Column times(T) const { return {}; }
-  ORB_INLINE Column plus(Column) const { return {}; }
-  template <class Factor>
-  ORB_INLINE void add_product(Column, Factor) {}
-};
-
-// C is scaled or cleared, and then takes the terms A(i, k) * (alpha op(B)(k, j)).
-template <class T>
-struct TakeTerms {
-  T alpha, beta;
-  template <class Column>
-  ORB_INLINE Column start(const T* c) const {
-    return beta == 0 ? Column::zero() : Column::loadu(c).times(beta);
-  }
-  template <class V>
-  ORB_INLINE V factor(T b) const {
-    return V::splat(alpha) * V::splat(b);
-  }
-  template <class Column>
-  ORB_INLINE void finish(Column sum, T* c) const {
-    sum.storeu(c);
-  }
-};
-
-// C = alpha * dot + beta C.
-template <class T>
-struct ScaleDot {
-  T alpha, beta;
-  template <class Column>
-  ORB_INLINE Column start(const T*) const {
-    return Column::zero();
-  }
-  template <class V>
-  ORB_INLINE V factor(T b) const {
-    return V::splat(b);
-  }
-  template <class Column>
-  ORB_INLINE void finish(Column sum, T* c) const {
-    sum = sum.times(alpha);
-    if (beta != 0) sum = sum.plus(Column::loadu(c).times(beta));
-    sum.storeu(c);
-  }
-};
-
-// `height` rows by `width` columns of C at (i, j); column k of A at p.a + k * p.lda, from row i on.
-template <int height, int width, class T, class Rule>
-ORB_INLINE void multiply_block(const SmallProduct<T>& p, const T* a, int i, int j, Rule rule) {
-  using Rows = Column<T, height>;
-  Rows sum[width];
-  T* const c = p.c + i + j * p.ldc;
-  unroll<width>([&](auto q) ORB_INLINE_BODY { sum[q] = rule.template start<Rows>(c + q * p.ldc); });
-  const int lda = p.lda, down = p.b_down, across = p.b_across;
-  const T* b = p.b + j * across;
-  for (int k = p.k; k > 0; --k, a += lda, b += down) {
-    const Rows column = Rows::loadu(a);
-    unroll<width>([&](auto q) ORB_INLINE_BODY {
-      sum[q].add_product(column, rule.template factor<typename Rows::Head>(b[q * across]));
-    });
-  }
-  unroll<width>([&](auto q) ORB_INLINE_BODY { rule.finish(sum[q], c + q * p.ldc); });
-}
-
-// All columns for `height` rows, about four registers of sums at a time.
-template <int height, class T, class Rule>
-__attribute__((noinline)) void multiply_rows(SmallProduct<T> p, const T* a, int i, Rule rule) {
-  constexpr int registers = Column<T, height>::registers;
-  constexpr int width = registers > 4 ? 1 : 4 / registers;
-  int j = 0;
-  for (; p.n - j >= width; j += width) multiply_block<height, width>(p, a, i, j, rule);
-  if constexpr (width > 1)
-    for (; j < p.n; ++j) multiply_block<height, 1>(p, a, i, j, rule);
-}
-
-// Calls use(Int<height>{}) for this height, which lies between 1 and `most`.
-template <int most, class Use>
-ORB_INLINE void with_height(int height, Use use) {
-  if constexpr (most == 1)
-    use(Int<1>{});
-  else if (height == most)
-    use(Int<most>{});
+// `count` neighbouring factors, the rule applied; lane t belongs to the t-th.
+template <class W, int count, class T, class Rule>
+ORB_INLINE W factors(const T* b, Rule rule) {
+  if constexpr (count == 1)
+    return rule.factor(W::splat(*b));
+  else if constexpr (count == 2)
+    return rule.factor(W::load_pair(b));
   else
-    with_height<most - 1>(height, use);
+    return rule.factor(W::loadu(b));
 }
 
-// Rows 0 to m - 1 in blocks of four registers, two registers, and the rest. rows_at(i, height) gives the
-// address of A(i, 0).
-template <class T, class Rule, class RowsAt>
-ORB_INLINE void multiply_all_rows(const SmallProduct<T>& p, Rule rule, RowsAt rows_at) {
-  constexpr int lanes = vector_of<T>::lanes;
-  const int i = ladder<4 * lanes, 2 * lanes>(
-      0, p.m, [&](auto height, int at) { multiply_rows<height>(p, rows_at(at, height), at, rule); });
-  if (i < p.m)
-    with_height<2 * lanes - 1>(p.m - i,
-                               [&](auto height) { multiply_rows<height>(p, rows_at(i, height), i, rule); });
+// `count` registers of rows by `width` columns of C, held in registers over all k. op(B)'s columns are
+// contiguous if `b_plain`, its rows otherwise; factors are taken several at a time along what is contiguous.
+template <class W, int count, int width, bool b_plain, class T, class Rule>
+ORB_INLINE void multiply_block(const SmallProduct<T>& p, const T* strip, int rows, const T* b, T* c,
+                               Rule rule) {
+  constexpr int height = count * W::lanes;
+  constexpr int along = b_plain ? W::lanes : std::min(W::lanes, width);
+  W sum[width][count];
+  unroll<width>([&](auto q) ORB_INLINE_BODY { rule.start(sum[q], c + q * p.ldc, rows); });
+  const auto add = [&](auto q, W factor, const T* column) ORB_INLINE_BODY {
+    unroll<count>([&](auto r) ORB_INLINE_BODY { sum[q][r] += factor * W::load(column + r * W::lanes); });
+  };
+  int k = p.k;
+  if constexpr (b_plain) {
+    const int across = p.b_across;
+    for (; k >= along; k -= along, b += along, strip += along * height)
+      unroll<width>([&](auto q) ORB_INLINE_BODY {
+        const W f = factors<W, along>(b + q * across, rule);
+        unroll<along>([&](auto t)
+                          ORB_INLINE_BODY { add(q, f.template splat_lane<t>(), strip + t * height); });
+      });
+    for (; k > 0; --k, ++b, strip += height)
+      unroll<width>([&](auto q) ORB_INLINE_BODY { add(q, factors<W, 1>(b + q * across, rule), strip); });
+  } else {
+    for (const int down = p.b_down; k > 0; --k, b += down, strip += height)
+      unroll<width / along>([&](auto g) ORB_INLINE_BODY {
+        const W f = factors<W, along>(b + g * along, rule);
+        unroll<along>([&](auto t)
+                          ORB_INLINE_BODY { add(Int<g * along + t>{}, f.template splat_lane<t>(), strip); });
+      });
+  }
+  unroll<width>([&](auto q) ORB_INLINE_BODY { rule.finish(sum[q], c + q * p.ldc, rows); });
+}
+
+// All columns for one strip, four registers of sums at a time. By value: `p` then needs no register.
+template <class W, int count, bool b_plain, class T, class Rule>
+__attribute__((noinline)) void multiply_strip(SmallProduct<T> p, const T* strip, int rows, T* c, Rule rule) {
+  constexpr int width = 4 / count;
+  const T* b = p.b;
+  int j = p.n;
+  for (; j >= width; j -= width, b += width * p.b_across, c += width * p.ldc)
+    multiply_block<W, count, width, b_plain>(p, strip, rows, b, c, rule);
+  if constexpr (width > 1)
+    for (; j > 0; --j, b += p.b_across, c += p.ldc)
+      multiply_block<W, count, 1, b_plain>(p, strip, rows, b, c, rule);
+}
+
+// All rows, in strips of four registers, two, and what is left. lay.template operator()<W>(count, i, rows)
+// lays the strip from row i on and returns it.
+template <bool b_plain, class T, class Rule, class Lay>
+ORB_INLINE void multiply_strips(const SmallProduct<T>& p, Rule rule, Lay lay) {
+  using V = vector_of<T>;
+  const auto strip = [&]<class W>(auto count, int i, int rows) ORB_INLINE_BODY {
+    const T* const a = lay.template operator()<W>(count, i, rows);
+    multiply_strip<W, count, b_plain>(p, a, rows, p.c + i, rule);
+  };
+  int i = 0;
+  for (; p.m - i >= 4 * V::lanes; i += 4 * V::lanes) strip.template operator()<V>(Int<4>{}, i, 4 * V::lanes);
+  while (i < p.m) {
+    const int rows = std::min(p.m - i, 2 * V::lanes);
+    if (rows > V::lanes)
+      strip.template operator()<V>(Int<2>{}, i, rows);
+    else if (rows > 1)
+      strip.template operator()<V>(Int<1>{}, i, rows);
+    else
+      strip.template operator()<Lane<T>>(Int<1>{}, i, rows);
+    i += rows;
+  }
 }
 
 }  // namespace orb::blas
