@@ -10,7 +10,13 @@
 namespace {
 
 using Names = std::set<std::string>;
-const char* const families[] = {"frame", "blas-level1", "blas-gemm-driver", "blas-gemm-kernels"};
+// One list a line.
+const char* const families[] = {
+    "frame",              //
+    "blas-level1",        //
+    "blas-gemm-driver",   //
+    "blas-gemm-kernels",  //
+};
 
 std::vector<std::string> lines_of(const std::string& list) {
   std::ifstream in(std::string(ORB_EXPORTS "/") + list + ".txt");
