@@ -1,21 +1,12 @@
 // y += alpha x. Reference: Lawson, Hanson, Kincaid, Krogh, ACM TOMS 5 (1979) 308-323.
 // Every element takes one product and one sum, so the path never shows in the result.
-#include <bit>
-
 #include "orb/blas_level1.h"
 #include "serv/kernel/loops.h"
 #include "serv/kernel/simd_complex.h"
+#include "serv/kernel/zero.h"
 
 namespace orb::blas {
 namespace {
-
-// Zero by bits, the sign set aside: a subnormal is none even where the processor takes it for one.
-bool is_zero(float a) { return std::bit_cast<uint32_t>(a) << 1 == 0; }
-bool is_zero(double a) { return std::bit_cast<uint64_t>(a) << 1 == 0; }
-template <Complex C>
-bool is_zero(C a) {
-  return is_zero(a.re) && is_zero(a.im);
-}
 
 template <class T>
 void axpy_strided(int n, T alpha, const T* x, int incx, T* y, int incy) {
