@@ -39,6 +39,10 @@ ORB_INLINE C operator-(C a, C b) {
   return {a.re - b.re, a.im - b.im};
 }
 template <Complex C>
+ORB_INLINE C operator-(C a) {
+  return {-a.re, -a.im};
+}
+template <Complex C>
 ORB_INLINE C operator*(C a, C b) {
   return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
 }

@@ -14,6 +14,7 @@ using Names = std::set<std::string>;
 const char* const families[] = {
     "frame",              //
     "blas-level1",        //
+    "blas-level2",        //
     "blas-gemm-driver",   //
     "blas-gemm-kernels",  //
 };

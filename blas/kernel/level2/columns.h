@@ -116,7 +116,8 @@ __attribute__((noinline)) void dot_columns_in_turn(int n, const Columns<width, T
 
 // The same for a contiguous x, n >= 1, with complex numbers side by side in the registers.
 template <bool conjugate, int width, Complex T>
-__attribute__((noinline)) void dot_columns(int n, const Columns<width, T>& a, const T* x, T (&sum)[width]) {
+__attribute__((noinline)) void dot_columns_contiguous(int n, const Columns<width, T>& a, const T* x,
+                                                      T (&sum)[width]) {
   using V = vector_of<T>;
   using One = one_of<T>;
   ProductSum<T> s[width];
@@ -132,7 +133,8 @@ __attribute__((noinline)) void dot_columns(int n, const Columns<width, T>& a, co
 // The same for reals: row 0 first, then the compiled loop over the others with x + 1 as its lead, a register
 // a round.
 template <bool, int width, Real T>
-__attribute__((noinline)) void dot_columns(int n, const Columns<width, T>& a, const T* x, T (&sum)[width]) {
+__attribute__((noinline)) void dot_columns_contiguous(int n, const Columns<width, T>& a, const T* x,
+                                                      T (&sum)[width]) {
   using V = vector_of<T>;
   T s[width];
   unroll<width>([&](auto j) { s[j] = a.at[j][0] * x[0]; });
@@ -154,6 +156,15 @@ __attribute__((noinline)) void dot_columns(int n, const Columns<width, T>& a, co
   }
   one_by_one(n);
   unroll<width>([&](auto j) { sum[j] = s[j]; });
+}
+
+// Either of them, for any n.
+template <bool conjugate, int width, class T>
+ORB_INLINE void dot_columns(int n, const Columns<width, T>& a, const T* x, int incx, T (&sum)[width]) {
+  if (n > 0 && incx == 1)
+    dot_columns_contiguous<conjugate>(n, a, x, sum);
+  else
+    dot_columns_in_turn<conjugate>(n, a, x, incx, sum);
 }
 
 }  // namespace orb::blas

@@ -27,7 +27,7 @@ void gemv_t(int m, int n, T alpha, const T* a, int lda, const T* x, T* y) {
   if (m <= 0) return;
   for_column_pairs(n, [&](auto width, int j) {
     T sum[width];
-    dot_columns<conjugate>(m, columns<width>(a + j * lda, lda), x, sum);
+    dot_columns_contiguous<conjugate>(m, columns<width>(a + j * lda, lda), x, sum);
     unroll<width>([&](auto k) { y[j + k] += alpha * sum[k]; });
   });
 }

@@ -29,7 +29,8 @@ void multiply_transposed(int m, int n, T alpha, const T* a, int lda, const T* x,
   const auto add = [&](auto width, int j) {
     T sum[width];
     const auto a_j = columns<width>(a + j * lda, lda);
-    contiguous ? dot_columns<false>(m, a_j, x, sum) : dot_columns_in_turn<false>(m, a_j, x, incx, sum);
+    contiguous ? dot_columns_contiguous<false>(m, a_j, x, sum)
+               : dot_columns_in_turn<false>(m, a_j, x, incx, sum);
     unroll<width>([&](auto k) { y[(j + k) * incy] = sum[k] * alpha + y[(j + k) * incy]; });
   };
   for (int j = ladder<columns_a_pass<T>>(0, n, add); j < n; ++j) add(Int<1>{}, j);
