@@ -21,14 +21,14 @@ ORB_BEGIN_DECLS
 /** @{ */
 /** C = alpha op(A) op(B) + beta C, op(A) m by k, op(B) k by n, C m by n. m <= 0 or n <= 0 returns at once;
  *  alpha == 0 or k <= 0 does not read A and B, and with beta == 1 touches nothing. Scratch is one block of
- *  orb_serv_allocate() at alignment 128, none for small products.
+ *  orb_serv_allocate() at alignment 128, none if m min(k, 128) numbers of op(A) fit 16 KiB.
  *
- *  The terms come in slices of 128 in rising k. Within a slice each part of an element is two running sums
- *  in rising k, of products with the real and with the imaginary part of B; the two are joined, multiplied by
- *  alpha and added to beta C, or to C after the first slice. Small products take the same steps, so that the
- *  bits of an element do not depend on how the rows and columns of C are divided among calls. The one
- *  exception: of the last n mod 3 columns, `xzgemm` makes one call each of the upward orb_blas_zgemv()
- *  (unless B is conjugated, or the product is small), so its columns are to be divided at multiples of 3.
+ *  The terms come in slices of 128 in rising k. Within a slice an element is two running sums in rising k,
+ *  of products with the real and with the imaginary part of op(B); the two are joined, multiplied by alpha
+ *  and added to beta C, or to C after the first slice. So the bits of an element do not depend on how the
+ * rows and columns of C are divided among calls. The one exception: if m, n and k are all 64 or more and B is
+ * not conjugated, `xzgemm` makes one call of the upward orb_blas_zgemv() for each of the last n mod 3
+ * columns; such a product is to be divided at columns that are multiples of 3, into pieces of 64 and more.
  *
  *  `xcgemm` asks orb_serv_l2cache() for its column block.
  *

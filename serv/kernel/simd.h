@@ -106,6 +106,10 @@ struct f32x4 {
     return {_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
   }
   ORB_INLINE void store_pair(float* p) const { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
+  // two pairs, from p and from q
+  static ORB_INLINE f32x4 load_pairs(const float* p, const float* q) {
+    return {_mm_loadh_pi(load_pair(p).v, reinterpret_cast<const __m64*>(q))};
+  }
   static ORB_INLINE f32x4 load_first(const float* p, int n) {
     if (n == 4) return loadu(p);
     if (n == 1) return splat(*p);
@@ -190,6 +194,13 @@ ORB_INLINE void keep_in_registers(V (&sum)[4]) {
 template <class V>
 ORB_INLINE void keep_in_registers(V (&sum)[2]) {
   asm volatile("" : "+x"(sum[0].v), "+x"(sum[1].v));
+}
+// Six sums, which leave one register for the common factor and one for the products.
+template <class V>
+ORB_INLINE void keep_in_registers(V (&sum)[6]) {
+  asm volatile(""
+               : "+x"(sum[0].v), "+x"(sum[1].v), "+x"(sum[2].v), "+x"(sum[3].v), "+x"(sum[4].v),
+                 "+x"(sum[5].v));
 }
 
 // One element under the same words.

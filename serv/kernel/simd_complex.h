@@ -11,6 +11,10 @@ namespace orb {
 ORB_INLINE f64x2 swap_parts(f64x2 a) { return a.swap_halves(); }
 ORB_INLINE f32x4 swap_parts(f32x4 a) { return a.swap_pairs(); }
 
+// A register of numbers `step` numbers apart.
+ORB_INLINE f64x2 gather_numbers(const c64* p, int) { return f64x2::loadu(&p->re); }
+ORB_INLINE f32x4 gather_numbers(const c32* p, int step) { return f32x4::load_pairs(&p->re, &p[step].re); }
+
 // The numbers of a register added, into the first two lanes.
 ORB_INLINE f64x2 sum_pairs(f64x2 a) { return a; }
 ORB_INLINE f32x4 sum_pairs(f32x4 a) { return a.sum_pairs(); }
@@ -63,6 +67,7 @@ struct ComplexVector {
   static ORB_INLINE RealFactor<ComplexVector> each(const real_of<C>* p) { return {Register::twice(p)}; }
   static ORB_INLINE ComplexVector load(const C* p) { return {Register::load(&p->re)}; }
   static ORB_INLINE ComplexVector loadu(const C* p) { return {Register::loadu(&p->re)}; }
+  static ORB_INLINE ComplexVector gather(const C* p, int step) { return {gather_numbers(p, step)}; }
   ORB_INLINE void store(C* p) const { v.store(&p->re); }
   ORB_INLINE void storeu(C* p) const { v.storeu(&p->re); }
   ORB_INLINE C sum() const {

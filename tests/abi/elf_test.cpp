@@ -17,6 +17,7 @@ const char* const families[] = {
     "blas-level2",        //
     "blas-gemm-driver",   //
     "blas-gemm-kernels",  //
+    "blas-level3",        //
 };
 
 std::vector<std::string> lines_of(const std::string& list) {
