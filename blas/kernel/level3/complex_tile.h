@@ -5,8 +5,20 @@
 #pragma once
 
 #include "blas/kernel/level3/complex_panels.h"
+#include "blas/kernel/level3/scalars.h"
 
 namespace orb::blas::complex_product {
+
+// A factor of whole registers. A real one takes no products with its imaginary part, which would make NaN of
+// infinity.
+template <Complex C>
+struct Scalar {
+  using V = vector_of<C>;
+  Factor<V> factor;
+  bool real;
+  explicit Scalar(C x) : factor(V::splat(x)), real(x.im == 0) {}
+  ORB_INLINE V operator*(V x) const { return real ? V{factor.re * x.v} : factor * x; }
+};
 
 // How the sums of a tile reach C: C = alpha sum + beta C.
 template <Complex C>
@@ -15,15 +27,15 @@ struct Finish {
   using R = typename V::Register;
   enum Old { ignored, kept, scaled };
   R first_signs, second_signs;  // what conjugation makes of the sums
-  Factor<V> alpha, beta;
+  Scalar<C> alpha, beta;
   Old old;
 
   Finish(C alpha, C beta, bool conjugate_a, bool conjugate_b)
-      : alpha(V::splat(alpha)),
-        beta(V::splat(beta)),
-        old(beta.im != 0 || (beta.re != 0 && beta.re != 1) ? scaled
-            : beta.re == 0                                 ? ignored
-                                                           : kept) {
+      : alpha(alpha),
+        beta(beta),
+        old(is_zero(beta)  ? ignored
+            : is_one(beta) ? kept
+                           : scaled) {
     const real_of<C> a = conjugate_a ? -1 : 1, b = conjugate_b ? -1 : 1;
     const C first[] = {{1, a}, {1, a}}, second[] = {{b, a * b}, {b, a * b}};
     first_signs = V::loadu(first).v, second_signs = V::loadu(second).v;

@@ -83,9 +83,8 @@ void multiply_large(const Product<C>& p, int width) {
 
 template <Complex C>
 void scale(int m, int n, C beta, C* c, int ldc) {
-  const bool clear = beta.re == 0 && beta.im == 0;
   for (int j = 0; j < n; ++j, c += ldc)
-    if (clear)
+    if (is_zero(beta))
       memset(c, 0, size_t(m) * sizeof(C));
     else
       register_loop<C>(m, 0, [&]<class W>(auto, int i) { (W::splat(beta) * W::loadu(c + i)).storeu(c + i); });
@@ -108,8 +107,8 @@ ORB_EXPORT void orb_blas_xcgemm(const char* transa, const char* transb, const in
   using namespace orb::blas::complex_product;
   using orb::c32;
   if (*m <= 0 || *n <= 0) return;
-  if (*k <= 0 || (alpha->re == 0 && alpha->im == 0)) {
-    if (beta->re != 1 || beta->im != 0) scale(*m, *n, *beta, c, *ldc);
+  if (*k <= 0 || orb::blas::is_zero(*alpha)) {
+    if (!orb::blas::is_one(*beta)) scale(*m, *n, *beta, c, *ldc);
     return;
   }
   const Product<c32> p{*m, *n, *k, *alpha, {transa, a, *lda}, {transb, b, *ldb}, *beta, c, *ldc};
@@ -124,8 +123,8 @@ ORB_EXPORT void orb_blas_xzgemm(const char* transa, const char* transb, const in
   using namespace orb::blas::complex_product;
   using orb::c64;
   if (*m <= 0 || *n <= 0) return;
-  if (*k <= 0 || (alpha->re == 0 && alpha->im == 0)) {
-    if (beta->re != 1 || beta->im != 0) scale(*m, *n, *beta, c, *ldc);
+  if (*k <= 0 || orb::blas::is_zero(*alpha)) {
+    if (!orb::blas::is_one(*beta)) scale(*m, *n, *beta, c, *ldc);
     return;
   }
   Product<c64> p{*m, *n, *k, *alpha, {transa, a, *lda}, {transb, b, *ldb}, *beta, c, *ldc};

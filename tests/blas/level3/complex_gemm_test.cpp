@@ -60,7 +60,7 @@ class Product : public testing::Test {
         e = finished(alpha, sum(s, a, b, i, j), beta, e);
       }
     run(s, alpha, a.data(), a.ld, b.data(), b.ld, beta, c.data(), c.ld);
-    ASSERT_TRUE(same_elements(c.all(), expected)) << s << " turn " << turn;
+    ASSERT_TRUE(equal_numbers(c.all(), expected)) << s << " turn " << turn;
     ASSERT_TRUE(c.canaries_whole()) << s;
     ASSERT_EQ(spy().faults(), "") << s;
   }
@@ -116,7 +116,7 @@ TYPED_TEST(Product, NothingToMultiply) {
       // A and B are null pointers: they may not be read.
       this->run({"NC", m, n, k}, element<T>(k > 0 ? -0. : 3), nullptr, m, nullptr, n, element<T>(beta),
                 c.data(), c.ld);
-      EXPECT_TRUE(same_elements(c.all(), expected)) << "beta " << beta << " k " << k;
+      EXPECT_TRUE(equal_numbers(c.all(), expected)) << "beta " << beta << " k " << k;
     }
   for (const auto& [m, n] : {std::pair{0, 50}, {50, 0}, {-1, 50}, {50, -7}})
     this->run({"NN", m, n, 9}, element<T>(2), nullptr, 50, nullptr, 50, T{}, nullptr, 50);

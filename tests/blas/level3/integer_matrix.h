@@ -26,7 +26,10 @@ class IntegerMatrix {
  public:
   // `more` elements behind each column; `place` as in Guarded.
   IntegerMatrix(int height, int width, unsigned seed, int more = 0, int place = -1)
-      : rows(height), cols(width), ld(height + more), data_(rows > 0 && cols > 0 ? (cols - 1) * ld + rows : 0, place) {
+      : rows(height),
+        cols(width),
+        ld(height + more),
+        data_(rows > 0 && cols > 0 ? (cols - 1) * ld + rows : 0, place) {
     std::minstd_rand random(seed);
     const auto part = [&] { return int(random() % 7) - 3; };
     std::fill(data_.begin(), data_.end(), element<T>(NAN, NAN));
@@ -57,6 +60,25 @@ template <class T>
 T op(const IntegerMatrix<T>& x, char letter, int i, int j) {
   if (stands_plain(letter)) return x(i, j);
   return (letter | 0x20) == 'c' ? conjugate(x(j, i)) : x(j, i);
+}
+
+// Leaves of a symmetric matrix the triangle that may be read, of a Hermitian diagonal the real parts.
+template <bool hermitian, class T>
+void hide_other_triangle(const IntegerMatrix<T>& x, bool upper) {
+  for (int j = 0; j < x.cols; ++j)
+    for (int i = 0; i < x.rows; ++i) {
+      if (i != j && (i < j) != upper) x(i, j) = element<T>(NAN, NAN);
+      if constexpr (hermitian)
+        if (i == j) x(i, j).im = part_of<T>(NAN);
+    }
+}
+
+// Equal but for the signs of zeros.
+template <class T>
+testing::AssertionResult equal_numbers(std::vector<T> got, std::vector<T> want) {
+  for (auto* x : {&got, &want})
+    for (T& e : *x) e = add(e, T{});
+  return same_elements(got, want);
 }
 
 // alpha sum + beta old, which is not read for beta 0.

@@ -1,0 +1,16 @@
+// Rank-k updates of a symmetric or Hermitian matrix.
+#include "blas/kernel/level3/triangle_update.h"
+
+#define SYRK(name, hermitian, T, Scalar)                                                                     \
+  ORB_EXPORT void name(const char* uplo, const char* trans, const int* n, const int* k, const Scalar* alpha, \
+                       const T* a, const int* lda, const Scalar* beta, T* c, const int* ldc) {               \
+    using namespace orb::blas;                                                                               \
+    const Term<T> term{number<T>(*alpha), a, *lda, a, *lda};                                                 \
+    update_triangle<hermitian, false>(uplo, trans, *n, *k, term, number<T>(*beta), c, *ldc);                 \
+  }
+SYRK(orb_blas_xssyrk, false, float, float)
+SYRK(orb_blas_xdsyrk, false, double, double)
+SYRK(orb_blas_xcsyrk, false, orb_complex_float, orb_complex_float)
+SYRK(orb_blas_xzsyrk, false, orb_complex_double, orb_complex_double)
+SYRK(orb_blas_xcherk, true, orb_complex_float, float)
+SYRK(orb_blas_xzherk, true, orb_complex_double, double)
