@@ -46,8 +46,9 @@ void orb_blas_xzgemm(const char* transa, const char* transb, const int* m, const
 
 /** @{ */
 /** The same by three real products instead of four: Ar Br, Ai Bi and (Ar + Ai) (Br + Bi). Faster for large
- *  matrices. The error is bounded as that of the plain product relative to the norms of A and B, not element
- *  by element: a small imaginary part next to a large real one may lose its digits.
+ *  matrices; with fewer than 48 rows, columns or terms it is the plain product. The error is bounded relative
+ *  to the moduli |A| |B|, not for each part by itself: a small imaginary part beside a large real one may
+ * lose its digits.
  *
  *  Source: N. J. Higham, Accuracy and Stability of Numerical Algorithms, 2nd ed., SIAM (2002), section
  *  23.2.4. */
