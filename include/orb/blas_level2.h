@@ -350,10 +350,13 @@ void orb_blas_ztrsv(const char* uplo, const char* trans, const char* diag, const
 
 /** @{ */
 /** Solves with one triangle, without blocks: `l` lower or `u` upper; `n` A x = b, `t` A^T x = b, `c` A^H
- *  x = b; `n` the diagonal is read, `u` it counts as 1. `n`: each x[i] has the products a(i, j) x[j]
- *  taken off one after the other in the order of the solve, and is divided by the diagonal element. `t`
- *  and `c`: a dot product along the column is taken off, then the division. Divisions are true ones; a
- *  complex one scales by the larger part of the divisor (R. L. Smith, Algorithm 116, CACM 5 (1962) 435). */
+ *  x = b; `n` the diagonal is read, `u` it counts as 1. n <= 0 does nothing.
+ *  - A x = b: each x[i] has the products a(i, j) x[j] taken off one after the other in the order of the
+ *    solve (complex ones of two neighbouring columns together), and is divided by the diagonal element.
+ *  - Otherwise a dot product along the column is taken off, then the division.
+ *
+ *  Divisions are true ones; a complex one scales by the larger part of the divisor (R. L. Smith, Algorithm
+ *  116, CACM 5 (1962) 435). */
 void orb_blas_strsv_lnn(const int* n, const float* a, const int* lda, float* x, const int* incx);
 void orb_blas_strsv_lnu(const int* n, const float* a, const int* lda, float* x, const int* incx);
 void orb_blas_strsv_ltn(const int* n, const float* a, const int* lda, float* x, const int* incx);

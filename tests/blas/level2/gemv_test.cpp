@@ -9,19 +9,23 @@ template <class T>
 struct Entry;
 template <>
 struct Entry<float> {
-  static constexpr auto gemv = orb_blas_xsgemv, gbmv = orb_blas_sgbmv;
+  static constexpr auto gemv = orb_blas_xsgemv;
+  static constexpr auto gbmv = orb_blas_sgbmv;
 };
 template <>
 struct Entry<double> {
-  static constexpr auto gemv = orb_blas_xdgemv, gbmv = orb_blas_dgbmv;
+  static constexpr auto gemv = orb_blas_xdgemv;
+  static constexpr auto gbmv = orb_blas_dgbmv;
 };
 template <>
 struct Entry<c32> {
-  static constexpr auto gemv = orb_blas_xcgemv, gbmv = orb_blas_cgbmv;
+  static constexpr auto gemv = orb_blas_xcgemv;
+  static constexpr auto gbmv = orb_blas_cgbmv;
 };
 template <>
 struct Entry<c64> {
-  static constexpr auto gemv = orb_blas_xzgemv, gbmv = orb_blas_zgbmv;
+  static constexpr auto gemv = orb_blas_xzgemv;
+  static constexpr auto gbmv = orb_blas_zgbmv;
 };
 
 struct Case {
