@@ -46,7 +46,7 @@ void orb_blas_xzgemm(const char* transa, const char* transb, const int* m, const
 
 /** @{ */
 /** The same by three real products instead of four: Ar Br, Ai Bi and (Ar + Ai) (Br + Bi). Faster for large
- *  matrices; with fewer than 48 rows, columns or terms it is the plain product. The error is bounded relative
+ *  matrices; with fewer than 64 rows, columns or terms it is the plain product. The error is bounded relative
  *  to the moduli |A| |B|, not for each part by itself: a small imaginary part beside a large real one may
  * lose its digits.
  *

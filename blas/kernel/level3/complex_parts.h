@@ -4,12 +4,12 @@
 
 #include <algorithm>
 
-#include "blas/kernel/level3/complex_pack.h"
 #include "blas/kernel/level3/product.h"
 #include "blas/kernel/level3/scalars.h"
+#include "blas/kernel/level3/tile_pack.h"
 #include "orb/services.h"
 
-namespace orb::blas::complex_product {
+namespace orb::blas::tiles {
 
 // The rows by columns block of op(X) from (i, j) on: store(r, c, x) for each of its numbers in memory order
 // of X, the conjugation applied.
@@ -48,4 +48,4 @@ inline int even_piece(int n, int most) {
   return std::min(n, ((n + pieces - 1) / pieces + 3) & ~3);
 }
 
-}  // namespace orb::blas::complex_product
+}  // namespace orb::blas::tiles

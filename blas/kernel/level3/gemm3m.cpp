@@ -3,11 +3,11 @@
 // Source: N. J. Higham, Accuracy and Stability of Numerical Algorithms, 2nd ed., SIAM (2002), section 23.2.4.
 #include "blas/kernel/level3/complex_parts.h"
 
-namespace orb::blas::complex_product {
+namespace orb::blas::tiles {
 namespace {
 
 constexpr int most = 512;  // rows, columns and terms of a block
-constexpr int least = 48;  // below it, taking apart costs more than a fourth product
+constexpr int least = 64;  // below it, taking apart costs more than a fourth product
 
 // The real part, the imaginary part and their sum, of a block whose columns follow each other.
 template <class R>
@@ -59,13 +59,13 @@ void gemm3m(int m, int n, int k, C alpha, Operand<C> a, Operand<C> b, C beta, C*
 bool pays(int m, int n, int k) { return std::min({m, n, k}) >= least; }
 
 }  // namespace
-}  // namespace orb::blas::complex_product
+}  // namespace orb::blas::tiles
 
 #define GEMM3M(name, plain, C)                                                                           \
   ORB_EXPORT void name(const char* transa, const char* transb, const int* m, const int* n, const int* k, \
                        const C* alpha, const C* a, const int* lda, const C* b, const int* ldb,           \
                        const C* beta, C* c, const int* ldc) {                                            \
-    using namespace orb::blas::complex_product;                                                          \
+    using namespace orb::blas::tiles;                                                                    \
     if (orb::blas::is_zero(*alpha) || !pays(*m, *n, *k))                                                 \
       return plain(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);                        \
     gemm3m<C>(*m, *n, *k, *alpha, {transa, a, *lda}, {transb, b, *ldb}, *beta, c, *ldc);                 \

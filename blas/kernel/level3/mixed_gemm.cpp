@@ -2,7 +2,7 @@
 // columns stand side by side, and so do those of the result.
 #include "blas/kernel/level3/complex_parts.h"
 
-namespace orb::blas::complex_product {
+namespace orb::blas::tiles {
 namespace {
 
 constexpr int most_rows = 512, most_columns = 256, most_terms = 512;  // of a block
@@ -41,13 +41,13 @@ void mixed_gemm(const char* transa, int m, int n, int k, C alpha, const real_of<
 }
 
 }  // namespace
-}  // namespace orb::blas::complex_product
+}  // namespace orb::blas::tiles
 
 #define MIXED_GEMM(name, R, C)                                                                               \
   ORB_EXPORT void name(const char* transa, const char* transb, const int* m, const int* n, const int* k,     \
                        const C* alpha, const R* a, const int* lda, const C* b, const int* ldb,               \
                        const C* beta, C* c, const int* ldc) {                                                \
-    orb::blas::complex_product::mixed_gemm<C>(transa, *m, *n, *k, *alpha, a, *lda, {transb, b, *ldb}, *beta, \
+    orb::blas::tiles::mixed_gemm<C>(transa, *m, *n, *k, *alpha, a, *lda, {transb, b, *ldb}, *beta, \
                                               c, *ldc);                                                      \
   }
 MIXED_GEMM(orb_blas_xscgemm, float, orb_complex_float)

@@ -6,8 +6,9 @@
                        const T* a, const int* lda, const T* b, const int* ldb, const Scalar* beta, T* c, \
                        const int* ldc) {                                                                 \
     using namespace orb::blas;                                                                           \
-    const Term<T> term{*alpha, a, *lda, b, *ldb};                                                        \
-    update_triangle<hermitian, true>(uplo, trans, *n, *k, term, number<T>(*beta), c, *ldc);              \
+    const tiles::Term<T> term{*alpha, a, *lda, b, *ldb};                                                 \
+    const tiles::Term<T> mirrored{hermitian ? orb::conj(*alpha) : *alpha, b, *ldb, a, *lda};             \
+    tiles::update_triangle<hermitian>(uplo, trans, *n, *k, number<T>(*beta), c, *ldc, term, mirrored);   \
   }
 SYR2K(orb_blas_xssyr2k, false, float, float)
 SYR2K(orb_blas_xdsyr2k, false, double, double)

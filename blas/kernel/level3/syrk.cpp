@@ -5,8 +5,8 @@
   ORB_EXPORT void name(const char* uplo, const char* trans, const int* n, const int* k, const Scalar* alpha, \
                        const T* a, const int* lda, const Scalar* beta, T* c, const int* ldc) {               \
     using namespace orb::blas;                                                                               \
-    const Term<T> term{number<T>(*alpha), a, *lda, a, *lda};                                                 \
-    update_triangle<hermitian, false>(uplo, trans, *n, *k, term, number<T>(*beta), c, *ldc);                 \
+    const tiles::Term<T> term{number<T>(*alpha), a, *lda, a, *lda};                                          \
+    tiles::update_triangle<hermitian>(uplo, trans, *n, *k, number<T>(*beta), c, *ldc, term);                 \
   }
 SYRK(orb_blas_xssyrk, false, float, float)
 SYRK(orb_blas_xdsyrk, false, double, double)

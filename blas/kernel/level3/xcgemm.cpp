@@ -8,13 +8,13 @@
 
 #include <algorithm>
 
-#include "blas/kernel/level3/complex_pack.h"
-#include "blas/kernel/level3/complex_tile.h"
+#include "blas/kernel/level3/tile_kernel.h"
+#include "blas/kernel/level3/tile_pack.h"
 #include "orb/blas_level3.h"
 #include "orb/services.h"
 #include "serv/kernel/scratch.h"
 
-namespace orb::blas::complex_product {
+namespace orb::blas::tiles {
 namespace {
 
 constexpr int panel_bytes = 512 * 1024;       // of op(A): half of a second-level cache of 1 MiB
@@ -52,7 +52,7 @@ void multiply(const Product<C>& p, int block, int width, C* room, real_of<C>* sp
       const Finish<C>& finish = k == 0 ? first : later;
       for (int row = 0; row < p.m; row += block) {
         const int rows = std::min(block, p.m - row), end = std::min(p.n, column + width);
-        pack(p.a, row, rows, k, panel.depth, panel);
+        pack(p.a, row, rows, k, panel);
         int j = column;
         for (; end - j >= 3; j += 3) multiply_columns<3>(p, row, rows, k, j, panel, splats, finish);
         if (end - j == 2) multiply_columns<2>(p, row, rows, k, j, panel, splats, finish);
@@ -98,13 +98,13 @@ bool is_small(const Product<C>& p) {
 }
 
 }  // namespace
-}  // namespace orb::blas::complex_product
+}  // namespace orb::blas::tiles
 
 ORB_EXPORT void orb_blas_xcgemm(const char* transa, const char* transb, const int* m, const int* n,
                                 const int* k, const orb_complex_float* alpha, const orb_complex_float* a,
                                 const int* lda, const orb_complex_float* b, const int* ldb,
                                 const orb_complex_float* beta, orb_complex_float* c, const int* ldc) {
-  using namespace orb::blas::complex_product;
+  using namespace orb::blas::tiles;
   using orb::c32;
   if (*m <= 0 || *n <= 0) return;
   if (*k <= 0 || orb::blas::is_zero(*alpha)) {
@@ -120,7 +120,7 @@ ORB_EXPORT void orb_blas_xzgemm(const char* transa, const char* transb, const in
                                 const int* k, const orb_complex_double* alpha, const orb_complex_double* a,
                                 const int* lda, const orb_complex_double* b, const int* ldb,
                                 const orb_complex_double* beta, orb_complex_double* c, const int* ldc) {
-  using namespace orb::blas::complex_product;
+  using namespace orb::blas::tiles;
   using orb::c64;
   if (*m <= 0 || *n <= 0) return;
   if (*k <= 0 || orb::blas::is_zero(*alpha)) {
@@ -128,7 +128,8 @@ ORB_EXPORT void orb_blas_xzgemm(const char* transa, const char* transb, const in
     return;
   }
   Product<c64> p{*m, *n, *k, *alpha, {transa, a, *lda}, {transb, b, *ldb}, *beta, c, *ldc};
-  const int odd_columns = std::min({*m, *n, *k}) < least_for_gemv || p.b.conjugate ? 0 : *n % tile_columns;
+  const int odd_columns =
+      std::min({*m, *n, *k}) < least_for_gemv || p.b.conjugate ? 0 : *n % tile_columns<c64>;
   p.n -= odd_columns;
   if (is_small(p))
     multiply_small(p);
