@@ -5,7 +5,7 @@
 #pragma once
 
 #include "blas/kernel/level3/scalars.h"
-#include "blas/kernel/level3/tile_panels.h"
+#include "blas/kernel/level3/tile_pack.h"
 
 namespace orb::blas::tiles {
 
@@ -71,7 +71,7 @@ ORB_INLINE void store_rows(vector_of<C> x, C* c, int rows) {
     one_of<C>{x.v}.storeu(c);
 }
 
-// How the sums of a tile reach C: C = alpha sum + beta C.
+// How the sums of a tile reach C: C = alpha sum + beta C. `rows` is an Int for a whole register.
 template <class T>
 struct Finish {
   using V = vector_of<T>;
@@ -88,39 +88,76 @@ struct Finish {
             : is_one(beta) ? kept
                            : scaled) {}
 
-  template <class R>
-  ORB_INLINE void operator()(const R* sum, T* c, int rows) const {
+  template <class R, class Rows>
+  ORB_INLINE void operator()(const R* sum, T* c, Rows rows) const {
     V x = alpha * join(sum);
-    if (rows > V::lanes) rows = V::lanes;
     if (old == kept) x += load_rows(c, rows);
     if (old == scaled) x += beta * load_rows(c, rows);
     store_rows(x, c, rows);
   }
 };
 
-template <class R, int sums, class T>
-ORB_INLINE void add_terms(int depth, const T* a, const T* b, R (&sum)[sums]) {
+// sum[s] += the terms of one strip. `b` holds the splatted columns; the first strip fills it from op(B).
+template <int columns, class T, class R>
+ORB_INLINE void add_terms(int depth, const T* a, real_of<T>* b, R (&sum)[columns * parts<T>]) {
+  constexpr int sums = columns * parts<T>;
   const auto add = [&](auto k) ORB_INLINE_BODY {
-    const R rows = R::load(a + k * R::lanes);
+    const R rows = R::load(reinterpret_cast<const real_of<T>*>(a) + k * R::lanes);
     unroll<sums>([&](auto s) ORB_INLINE_BODY { sum[s] += rows * R::load(b + (k * sums + s) * R::lanes); });
     if constexpr (sums % 2 == 0) keep_in_registers(sum);
   };
-  for (; depth >= 4; depth -= 4, a += 4 * R::lanes, b += 4 * sums * R::lanes) unroll<4>(add);
-  for (; depth > 0; --depth, a += R::lanes, b += sums * R::lanes) add(Int<0>{});
+  constexpr int height = RowStrips<T>::height;
+  for (; depth >= 4; depth -= 4, a += 4 * height, b += 4 * sums * R::lanes) unroll<4>(add);
+  for (; depth > 0; --depth, a += height, b += sums * R::lanes) add(Int<0>{});
+}
+template <int columns, class T, class R>
+ORB_INLINE void add_terms_first(int depth, const T* a, const T* from, int down, int across, real_of<T>* b,
+                                R (&sum)[columns * parts<T>]) {
+  constexpr int height = RowStrips<T>::height;
+  for (; depth > 0; --depth, a += height, from += down, b += columns * parts<T> * R::lanes) {
+    const R rows = R::load(reinterpret_cast<const real_of<T>*>(a));
+    unroll<columns>([&](auto q) ORB_INLINE_BODY {
+      const auto* const x = reinterpret_cast<const real_of<T>*>(from + q * across);
+      unroll<parts<T>>([&](auto part) ORB_INLINE_BODY {
+        constexpr int s = q * parts<T> + part;
+        const R factor = R::splat(x[part]);
+        factor.store(b + s * R::lanes);
+        sum[s] += rows * factor;
+      });
+    });
+  }
 }
 
-// All rows of the panel by the splatted columns.
-template <class T, int columns>
-__attribute__((noinline)) void multiply_strips(int rows, RowStrips<T> a, SplatColumns<T, columns> b, T* c,
-                                               int ldc, const Finish<T>& finish) {
+// The panel's rows by `columns` columns of op(B) from (k, column) on. write(q, i, sum, rows) takes the sums
+// of column q in the strip from row i on.
+template <int columns, class T, class Write>
+ORB_INLINE void multiply_strips(int rows, RowStrips<T> a, const Operand<T>& b, int k, int column,
+                                real_of<T>* splats, Write write) {
   using R = vector_of<real_of<T>>;
-  constexpr int sums = columns * parts<T>;
-  for (int i = 0; i < rows; i += a.height) {
-    R sum[sums];
-    unroll<sums>([&](auto s) ORB_INLINE_BODY { sum[s] = R::zero(); });
-    add_terms(a.depth, reinterpret_cast<const real_of<T>*>(a.at(i, 0)), b.p, sum);
-    unroll<columns>([&](auto q) ORB_INLINE_BODY { finish(sum + q * parts<T>, c + i + q * ldc, rows - i); });
-  }
+  const auto strip = [&](auto first, int i, auto count) ORB_INLINE_BODY {
+    R sum[columns * parts<T>];
+    unroll<columns * parts<T>>([&](auto s) ORB_INLINE_BODY { sum[s] = R::zero(); });
+    if constexpr (first)
+      add_terms_first<columns>(a.depth, a.at(i, 0), b.at(k, column), b.down, b.across, splats, sum);
+    else
+      add_terms<columns>(a.depth, a.at(i, 0), splats, sum);
+    unroll<columns>([&](auto q) ORB_INLINE_BODY { write(q, i, sum + q * parts<T>, count); });
+  };
+  if (rows < a.height) return strip(Int<true>{}, 0, rows);
+  const Int<RowStrips<T>::height> whole;
+  strip(Int<true>{}, 0, whole);
+  int i = a.height;
+  for (; rows - i >= a.height; i += a.height) strip(Int<false>{}, i, whole);
+  if constexpr (RowStrips<T>::height > 1)
+    if (i < rows) strip(Int<false>{}, i, rows - i);
+}
+
+// add(Int<count>{}) for a count of at most `most`, known at run time only.
+template <int most, class Add>
+ORB_INLINE void last_columns(int count, Add add) {
+  unroll<most>([&](auto less) ORB_INLINE_BODY {
+    if (count == less + 1) add(Int<less + 1>{});
+  });
 }
 
 }  // namespace orb::blas::tiles

@@ -70,20 +70,4 @@ void pack(const Operand<T>& a, int row, int rows, int k, RowStrips<T> panel) {
   if (whole < rows) pack_short_strip(a, row + whole, rows - whole, k, panel.depth, panel.at(whole, 0));
 }
 
-template <int columns, class T>
-ORB_INLINE void splat(const Operand<T>& b, int k, int depth, int column, SplatColumns<T, columns> panel) {
-  using R = vector_of<real_of<T>>;
-  const T* from = b.at(k, column);
-  for (int d = 0; d < depth; ++d, from += b.down)
-    unroll<columns>([&](auto q) ORB_INLINE_BODY {
-      const T x = from[q * b.across];
-      if constexpr (Complex<T>) {
-        R::splat(x.re).store(panel.at(d, q));
-        R::splat(x.im).store(panel.at(d, q) + R::lanes);
-      } else {
-        R::splat(x).store(panel.at(d, q));
-      }
-    });
-}
-
 }  // namespace orb::blas::tiles

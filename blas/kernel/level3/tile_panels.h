@@ -31,14 +31,8 @@ struct RowStrips {
 // registers for a k, the real and the imaginary part:
 //
 //   k = 0: re0 im0 | re1 im1 | re2 im2   k = 1: ...
-template <class T, int columns>
-struct SplatColumns {
-  using R = vector_of<real_of<T>>;
-  real_of<T>* p;
-  ORB_INLINE real_of<T>* at(int k, int column) const {
-    return p + (k * columns + column) * parts<T> * R::lanes;
-  }
-};
+//
+// The most room that they take, in real numbers:
 template <class T>
 constexpr int splat_reals = most_depth * 6 * vector_of<real_of<T>>::lanes;
 

@@ -1,7 +1,7 @@
 // C = alpha X Y^T + beta C on one triangle of a symmetric C, with the conjugate transpose on one of a
 // Hermitian C. Rows are packed and columns splatted as for a product, but every group of columns meets only
-// the rows of the triangle. The tiles on the diagonal go through a small square, from which their part of the
-// triangle is taken. An element's bits are those that the tiles give it in a product, wherever it stands.
+// the strips of rows that are in the triangle; a strip that the diagonal crosses gives up the part inside. An
+// element's bits are those that the tiles give it in a product, wherever it stands.
 #pragma once
 
 #include "blas/kernel/level3/tile_kernel.h"
@@ -23,69 +23,63 @@ struct TriangleUpdate {
   T* c;
   int ldc;
 
+  // A strip of column j from row i on, which the diagonal crosses: the part inside.
+  template <class R>
+  void write_crossed(const Finish<T>& finish, const R* sum, int i, int j, int rows) const {
+    alignas(16) T x[height];
+    (finish.alpha * finish.join(sum)).store(x);
+    const int from = upper ? i : std::max(i, j), to = upper ? std::min(i + rows, j + 1) : i + rows;
+    for (int r = from; r < to; ++r) add(x[r - i], finish.old, r, j);
+  }
   // Element (i, j) takes `sum`, which is alpha times its terms.
-  ORB_INLINE void add(T sum, T old_factor, int i, int j) const {
+  ORB_INLINE void add(T sum, typename Finish<T>::Old old, int i, int j) const {
     T& to = c[i + j * ldc];
-    if constexpr (hermitian) {
-      if (!is_zero(old_factor)) sum += old_factor.re * to;
+    if (old == Finish<T>::kept) sum += to;
+    if (old == Finish<T>::scaled) sum += scaled(to);
+    if constexpr (hermitian)
       if (i == j) sum.im = 0;
-    } else if (is_one(old_factor)) {
-      sum += to;
-    } else if (!is_zero(old_factor)) {
-      sum += old_factor * to;
-    }
     to = sum;
+  }
+  ORB_INLINE T scaled(T x) const {
+    if constexpr (hermitian)
+      return beta.re * x;
+    else
+      return beta * x;
   }
 
   // `columns` columns from j on by those of the packed rows from `row` to `end` that are in the triangle.
   template <int columns>
-  void add_columns(int row, int end, int t, int j, RowStrips<T> panel, real_of<T>* splats, T old) const {
-    const SplatColumns<T, columns> b{splats};
-    splat(y, t, panel.depth, j, b);
-    // whole strips around the diagonal
-    const int first = std::clamp(j - j % height, row, end);
-    const int last = std::clamp((j + columns + height - 1) / height * height, row, end);
-    const auto multiply = [&](int from, int to, T* at, int ld, T beta) {
-      if (from < to)
-        multiply_strips(to - from, RowStrips<T>{panel.at(from - row, 0), panel.depth}, b, at, ld,
-                        Finish<T>(alpha, beta, x.conjugate, y.conjugate));
-    };
-    T* const column = c + j * ldc;
-    if (upper)
-      multiply(row, first, column + row, ldc, old);
-    else
-      multiply(last, end, column + last, ldc, old);
-    constexpr int most = (width + 2 * height - 2) / height * height;
-    T square[most * width];
-    multiply(first, last, square, most, T{});
-    for (int q = 0; q < columns; ++q)
-      for (int i = upper ? first : std::max(first, j + q); i < (upper ? std::min(last, j + q + 1) : last);
-           ++i)
-        add(square[i - first + q * most], old, i, j + q);
+  __attribute__((noinline)) void add_columns(int row, int end, int t, int j, RowStrips<T> panel,
+                                             real_of<T>* splats, const Finish<T>& finish) const {
+    const int first = upper ? row : std::max(row, j - j % height),
+              last = upper ? std::min(end, j + columns) : end;
+    multiply_strips<columns>(last - first, RowStrips<T>{panel.at(first - row, 0), panel.depth}, y, t, j,
+                             splats,
+                             [=, this, &finish](auto q, int strip, auto* sum, auto rows) ORB_INLINE_BODY {
+                               const int i = first + strip, column = j + q;
+                               if (upper ? i + rows <= column : i > column)
+                                 finish(sum, c + i + column * ldc, rows);
+                               else
+                                 write_crossed(finish, sum, i, column, rows);
+                             });
   }
 
   // The panel has room for `block` rows, a multiple of the strips' height.
   void run(int block, T* room, real_of<T>* splats) const {
+    const Finish<T> first(alpha, beta, x.conjugate, y.conjugate);
+    const Finish<T> later(alpha, number<T>(1), x.conjugate, y.conjugate);
     for (int t = 0; t < k; t += most_depth) {
       const RowStrips<T> panel{room, std::min(most_depth, k - t)};
-      const T old = t == 0 ? beta : number<T>(1);
       for (int row = 0; row < n; row += block) {
-        const int end = std::min(n, row + block);
+        const int end = std::min(n, row + block), stop = upper ? n : end;
         pack(x, row, end - row, t, panel);
         int j = upper ? row - row % width : 0;
-        const int stop = upper ? n : end;
-        for (; j < stop && n - j >= width; j += width) add_columns<width>(row, end, t, j, panel, splats, old);
-        if (j < stop) add_last_columns<width - 1>(row, end, t, j, panel, splats, old);
+        const auto add = [&](auto columns) {
+          add_columns<columns>(row, end, t, j, panel, splats, t == 0 ? first : later);
+        };
+        for (; j < stop && n - j >= width; j += width) add(Int<width>{});
+        if (j < stop) last_columns<width - 1>(n - j, add);
       }
-    }
-  }
-  template <int columns>
-  void add_last_columns(int row, int end, int t, int j, RowStrips<T> panel, real_of<T>* splats, T old) const {
-    if constexpr (columns > 0) {
-      if (n - j == columns)
-        add_columns<columns>(row, end, t, j, panel, splats, old);
-      else
-        add_last_columns<columns - 1>(row, end, t, j, panel, splats, old);
     }
   }
 
@@ -113,7 +107,8 @@ struct TriangleUpdate {
   // C = beta C
   void scale() const {
     for (int j = 0; j < n; ++j)
-      for (int i = upper ? 0 : j; i < (upper ? j + 1 : n); ++i) add(T{}, beta, i, j);
+      for (int i = upper ? 0 : j; i < (upper ? j + 1 : n); ++i)
+        add(T{}, is_zero(beta) ? Finish<T>::ignored : Finish<T>::scaled, i, j);
   }
 };
 

@@ -33,11 +33,12 @@ struct Product {
 };
 
 template <int columns, Complex C>
-ORB_INLINE void multiply_columns(const Product<C>& p, int row, int rows, int k, int j, RowStrips<C> panel,
-                                 real_of<C>* splats, const Finish<C>& finish) {
-  const SplatColumns<C, columns> b{splats};
-  splat(p.b, k, panel.depth, j, b);
-  multiply_strips(rows, panel, b, p.c + row + j * p.ldc, p.ldc, finish);
+__attribute__((noinline)) void multiply_columns(const Product<C>& p, int row, int rows, int k, int j,
+                                                RowStrips<C> panel, real_of<C>* splats,
+                                                const Finish<C>& finish) {
+  multiply_strips<columns>(rows, panel, p.b, k, j, splats,
+                           [&, c = p.c + row + j * p.ldc, ldc = p.ldc](auto q, int i, auto* sum, auto count)
+                               ORB_INLINE_BODY { finish(sum, c + i + q * ldc, count); });
 }
 
 // The panel has `block` rows. `width` columns of C at a time keep their part of op(B)'s slice in the
@@ -54,9 +55,11 @@ void multiply(const Product<C>& p, int block, int width, C* room, real_of<C>* sp
         const int rows = std::min(block, p.m - row), end = std::min(p.n, column + width);
         pack(p.a, row, rows, k, panel);
         int j = column;
-        for (; end - j >= 3; j += 3) multiply_columns<3>(p, row, rows, k, j, panel, splats, finish);
-        if (end - j == 2) multiply_columns<2>(p, row, rows, k, j, panel, splats, finish);
-        if (end - j == 1) multiply_columns<1>(p, row, rows, k, j, panel, splats, finish);
+        const auto add = [&](auto columns) {
+          multiply_columns<columns>(p, row, rows, k, j, panel, splats, finish);
+        };
+        for (; end - j >= 3; j += 3) add(Int<3>{});
+        last_columns<2>(end - j, add);
       }
     }
 }
