@@ -11,6 +11,7 @@ namespace orb::blas {
 namespace {
 
 constexpr int most_width = 256;  // of a block column: two full panels of the products
+constexpr int small_order = 32;  // a matrix that fits the stack in full
 
 // A symmetric matrix, or a Hermitian one, of which one triangle is stored.
 template <bool hermitian, class T>
@@ -39,31 +40,55 @@ struct Triangle {
   }
 };
 
+template <class T>
+struct Call {
+  bool left;
+  int m, n;
+  T alpha;
+  const T* b;
+  int ldb;
+  T beta;
+  T* c;
+  int ldc;
+};
+
+// `scratch` has room for a square of `most` rows and columns.
 template <bool hermitian, class T>
-void symm(const char* side, const char* uplo, int m, int n, T alpha, const T* a, int lda, const T* b, int ldb,
-          T beta, T* c, int ldc) {
-  if (m <= 0 || n <= 0) return;
-  if (is_zero(alpha)) return product<T>(m, n, 0, alpha, {'N', a, lda}, {'N', b, ldb}, beta, c, ldc);
-  const Triangle<hermitian, T> full{is_option(uplo, 'U'), a, lda};
-  const bool left = is_option(side, 'L');
-  const int order = left ? m : n, most = std::min(order, most_width);
-  T* const scratch = static_cast<T*>(orb_serv_allocate(most * most * int(sizeof(T)), 64));
+void multiply(const Call<T>& s, const Triangle<hermitian, T>& a, int order, int most, T* scratch) {
   for (int j = 0; j < order; j += most) {
     const int width = std::min(most, order - j), below = j + width;
-    const auto diagonal = full.square(j, width, scratch);
     const auto take = [&](int i, int height, Factored<T> block, T old) {
       if (height == 0) return;
-      if (left)
-        product<T>(height, n, width, alpha, block, {'N', b + j, ldb}, old, c + i, ldc);
+      if (s.left)
+        product<T>(height, s.n, width, s.alpha, block, {'N', s.b + j, s.ldb}, old, s.c + i, s.ldc);
       else
-        product<T>(m, width, height, alpha, {'N', b + i * ldb, ldb}, block, old, c + j * ldc, ldc);
+        product<T>(s.m, width, height, s.alpha, {'N', s.b + i * s.ldb, s.ldb}, block, old, s.c + j * s.ldc,
+                   s.ldc);
     };
     // beta is for the first product that reaches an element.
-    const T one = number<T>(1), old = left && j > 0 ? one : beta, next = left ? old : one;
-    take(j, width, diagonal, old);
-    take(0, j, full.rectangle(0, j), next);
-    take(below, order - below, full.rectangle(below, j), next);
+    const T one = number<T>(1), old = s.left && j > 0 ? one : s.beta, next = s.left ? old : one;
+    take(j, width, a.square(j, width, scratch), old);
+    take(0, j, a.rectangle(0, j), next);
+    take(below, order - below, a.rectangle(below, j), next);
   }
+}
+
+template <bool hermitian, class T>
+__attribute__((noinline)) void multiply_small(const Call<T>& s, const Triangle<hermitian, T>& a, int order) {
+  T scratch[small_order * small_order];
+  multiply(s, a, order, order, scratch);
+}
+
+template <bool hermitian, class T>
+void symm(const char* uplo, const Call<T>& s, const T* p, int ld) {
+  if (s.m <= 0 || s.n <= 0) return;
+  if (is_zero(s.alpha))
+    return product<T>(s.m, s.n, 0, s.alpha, {'N', p, ld}, {'N', s.b, s.ldb}, s.beta, s.c, s.ldc);
+  const Triangle<hermitian, T> a{is_option(uplo, 'U'), p, ld};
+  const int order = s.left ? s.m : s.n, most = std::min(order, most_width);
+  if (order <= small_order) return multiply_small(s, a, order);
+  T* const scratch = static_cast<T*>(orb_serv_allocate(most * most * int(sizeof(T)), 64));
+  multiply(s, a, order, most, scratch);
   orb_serv_deallocate(scratch);
 }
 
@@ -74,7 +99,8 @@ void symm(const char* side, const char* uplo, int m, int n, T alpha, const T* a,
   ORB_EXPORT void name(const char* side, const char* uplo, const int* m, const int* n, const T* alpha, \
                        const T* a, const int* lda, const T* b, const int* ldb, const T* beta, T* c,    \
                        const int* ldc) {                                                               \
-    orb::blas::symm<hermitian>(side, uplo, *m, *n, *alpha, a, *lda, b, *ldb, *beta, c, *ldc);          \
+    orb::blas::symm<hermitian, T>(                                                                     \
+        uplo, {orb::is_option(side, 'L'), *m, *n, *alpha, b, *ldb, *beta, c, *ldc}, a, *lda);          \
   }
 SYMM(orb_blas_xssymm, false, float)
 SYMM(orb_blas_xdsymm, false, double)

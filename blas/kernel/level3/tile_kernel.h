@@ -81,12 +81,8 @@ struct Finish {
   Old old;
 
   Finish(T alpha, T beta, bool conjugate_a, bool conjugate_b)
-      : join(conjugate_a, conjugate_b),
-        alpha(alpha),
-        beta(beta),
-        old(is_zero(beta)  ? ignored
-            : is_one(beta) ? kept
-                           : scaled) {}
+      : join(conjugate_a, conjugate_b), alpha(alpha), beta(beta), old(use_of(beta)) {}
+  static Old use_of(T beta) { return is_zero(beta) ? ignored : is_one(beta) ? kept : scaled; }
 
   template <class R, class Rows>
   ORB_INLINE void operator()(const R* sum, T* c, Rows rows) const {

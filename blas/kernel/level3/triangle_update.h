@@ -4,24 +4,16 @@
 // element's bits are those that the tiles give it in a product, wherever it stands.
 #pragma once
 
-#include "blas/kernel/level3/tile_kernel.h"
-#include "blas/kernel/level3/tile_pack.h"
-#include "orb/services.h"
-#include "serv/kernel/scratch.h"
+#include "blas/kernel/level3/tile_product.h"
 
 namespace orb::blas::tiles {
 
 template <bool hermitian, class T>
 struct TriangleUpdate {
   static constexpr int height = RowStrips<T>::height, width = tile_columns<T>;
-  static constexpr int panel_bytes = 512 * 1024, small_panel_bytes = 16 * 1024;
+  using Old = typename Finish<T>::Old;
   bool upper;
-  int n, k;
-  T alpha;
-  Operand<T> x, y;  // n by k, k by n
-  T beta;
-  T* c;
-  int ldc;
+  Product<T> p;  // X is n by k, Y^T k by n
 
   // A strip of column j from row i on, which the diagonal crosses: the part inside.
   template <class R>
@@ -32,8 +24,8 @@ struct TriangleUpdate {
     for (int r = from; r < to; ++r) add(x[r - i], finish.old, r, j);
   }
   // Element (i, j) takes `sum`, which is alpha times its terms.
-  ORB_INLINE void add(T sum, typename Finish<T>::Old old, int i, int j) const {
-    T& to = c[i + j * ldc];
+  ORB_INLINE void add(T sum, Old old, int i, int j) const {
+    T& to = p.c[i + j * p.ldc];
     if (old == Finish<T>::kept) sum += to;
     if (old == Finish<T>::scaled) sum += scaled(to);
     if constexpr (hermitian)
@@ -42,9 +34,9 @@ struct TriangleUpdate {
   }
   ORB_INLINE T scaled(T x) const {
     if constexpr (hermitian)
-      return beta.re * x;
+      return p.beta.re * x;
     else
-      return beta * x;
+      return p.beta * x;
   }
 
   // `columns` columns from j on by those of the packed rows from `row` to `end` that are in the triangle.
@@ -53,62 +45,56 @@ struct TriangleUpdate {
                                              real_of<T>* splats, const Finish<T>& finish) const {
     const int first = upper ? row : std::max(row, j - j % height),
               last = upper ? std::min(end, j + columns) : end;
-    multiply_strips<columns>(last - first, RowStrips<T>{panel.at(first - row, 0), panel.depth}, y, t, j,
+    multiply_strips<columns>(last - first, RowStrips<T>{panel.at(first - row, 0), panel.depth}, p.b, t, j,
                              splats,
                              [=, this, &finish](auto q, int strip, auto* sum, auto rows) ORB_INLINE_BODY {
                                const int i = first + strip, column = j + q;
                                if (upper ? i + rows <= column : i > column)
-                                 finish(sum, c + i + column * ldc, rows);
+                                 finish(sum, p.c + i + column * p.ldc, rows);
                                else
                                  write_crossed(finish, sum, i, column, rows);
                              });
   }
 
-  // The panel has room for `block` rows, a multiple of the strips' height.
-  void run(int block, T* room, real_of<T>* splats) const {
-    const Finish<T> first(alpha, beta, x.conjugate, y.conjugate);
-    const Finish<T> later(alpha, number<T>(1), x.conjugate, y.conjugate);
-    for (int t = 0; t < k; t += most_depth) {
-      const RowStrips<T> panel{room, std::min(most_depth, k - t)};
-      for (int row = 0; row < n; row += block) {
-        const int end = std::min(n, row + block), stop = upper ? n : end;
-        pack(x, row, end - row, t, panel);
+  void run(const Room<T>& room) const {
+    const Finish<T> first(p.alpha, p.beta, p.a.conjugate, p.b.conjugate);
+    const Finish<T> later(p.alpha, number<T>(1), p.a.conjugate, p.b.conjugate);
+    for (int t = 0; t < p.k; t += most_depth) {
+      const RowStrips<T> panel{room.panel, std::min(most_depth, p.k - t)};
+      for (int row = 0; row < p.m; row += room.rows) {
+        const int end = std::min(p.m, row + room.rows), stop = upper ? p.n : end;
+        pack(p.a, row, end - row, t, panel);
         int j = upper ? row - row % width : 0;
         const auto add = [&](auto columns) {
-          add_columns<columns>(row, end, t, j, panel, splats, t == 0 ? first : later);
+          add_columns<columns>(row, end, t, j, panel, room.splats, t == 0 ? first : later);
         };
-        for (; j < stop && n - j >= width; j += width) add(Int<width>{});
-        if (j < stop) last_columns<width - 1>(n - j, add);
+        for (; j < stop && p.n - j >= width; j += width) add(Int<width>{});
+        if (j < stop) last_columns<width - 1>(p.n - j, add);
       }
     }
   }
 
-  __attribute__((noinline)) void run_small() const {
-    alignas(64) T room[small_panel_bytes / sizeof(T)];
-    alignas(64) real_of<T> splats[splat_reals<T>];
-    run((n + height - 1) / height * height, room, splats);
-  }
-  void run_large() const {
-    constexpr int page = 4096, splat_bytes = splat_reals<T> * int(sizeof(real_of<T>));
-    char* const block = static_cast<char*>(orb_serv_allocate(page + panel_bytes + 384 + splat_bytes, 64));
-    char* const panel = round_forward(block, page);
-    run(panel_bytes / most_depth / int(sizeof(T)), reinterpret_cast<T*>(panel),
-        reinterpret_cast<real_of<T>*>(panel + panel_bytes + 384));
-    orb_serv_deallocate(block);
-  }
-  void run() const {
-    constexpr int most = small_panel_bytes / int(sizeof(T));
-    if (n <= most && (n + height - 1) * std::min(k, most_depth) <= most)
-      run_small();
-    else
-      run_large();
+  // add_to(i, j) for every element of the triangle
+  template <class AddTo>
+  ORB_INLINE void for_each(AddTo add_to) const {
+    for (int j = 0; j < p.n; ++j)
+      for (int i = upper ? 0 : j; i < (upper ? j + 1 : p.n); ++i) add_to(i, j);
   }
 
-  // C = beta C
-  void scale() const {
-    for (int j = 0; j < n; ++j)
-      for (int i = upper ? 0 : j; i < (upper ? j + 1 : n); ++i)
-        add(T{}, is_zero(beta) ? Finish<T>::ignored : Finish<T>::scaled, i, j);
+  // This update and its mirror image, which share one product. No larger than the square, and one slice deep:
+  // the bits are then those of two updates.
+  static constexpr int most_in_square = small_panel_bytes / int(sizeof(T));
+  __attribute__((noinline)) void run_with_mirror(const Room<T>& room) const {
+    alignas(64) T square[most_in_square];
+    Product<T> whole = p;
+    whole.beta = T{}, whole.c = square, whole.ldc = p.n;
+    whole.run(room, p.n);
+    const Old old = Finish<T>::use_of(p.beta);
+    for_each([&](int i, int j) ORB_INLINE_BODY {
+      const T mirrored = square[j + i * p.n];
+      add(square[i + j * p.n], old, i, j);
+      add(hermitian ? conj(mirrored) : mirrored, Finish<T>::kept, i, j);
+    });
   }
 };
 
@@ -121,27 +107,26 @@ struct Term {
   int ldy;
 };
 
-template <bool hermitian, class T, class... More>
-void update_triangle(const char* uplo, const char* trans, int n, int k, T beta, T* c, int ldc, Term<T> term,
-                     More... more) {
-  const bool nothing = is_zero(term.alpha) || k <= 0;
-  if (n <= 0 || (nothing && is_one(beta))) return;
-  const char across = hermitian ? 'C' : 'T';
-  const bool plain = is_option(trans, 'N');
+// C takes one term, or two of which the second is the mirror image of the first.
+template <bool hermitian, class T, class... Second>
+void update_triangle(const char* uplo, const char* trans, int n, int k, T beta, T* c, int ldc, Term<T> first,
+                     Second... second) {
+  constexpr int alignment = 64;
+  constexpr char across = hermitian ? 'C' : 'T';
+  const bool upper = is_option(uplo, 'U'), plain = is_option(trans, 'N');
   const auto update = [&](const Term<T>& t, T old) {
-    return TriangleUpdate<hermitian, T>{is_option(uplo, 'U'),
-                                        n,
-                                        k,
-                                        t.alpha,
-                                        {plain ? 'N' : across, t.x, t.ldx},
-                                        {plain ? across : 'N', t.y, t.ldy},
-                                        old,
-                                        c,
-                                        ldc};
+    const Operand<T> x{plain ? 'N' : across, t.x, t.ldx}, y{plain ? across : 'N', t.y, t.ldy};
+    return TriangleUpdate<hermitian, T>{upper, {n, n, k, t.alpha, x, y, old, c, ldc}};
   };
-  if (nothing) return update(term, beta).scale();
-  update(term, beta).run();
-  (update(more, number<T>(1)).run(), ...);
+  const auto u = update(first, beta);
+  const bool nothing = is_zero(first.alpha) || k <= 0;
+  if (n <= 0 || (nothing && is_one(beta))) return;
+  if (nothing) return u.for_each([&](int i, int j) { u.add(T{}, Finish<T>::use_of(beta), i, j); });
+  with_room<T>(n, k, alignment, [&](const Room<T>& room) {
+    if (sizeof...(second) > 0 && k <= most_depth && n <= u.most_in_square / n) return u.run_with_mirror(room);
+    u.run(room);
+    (update(second, number<T>(1)).run(room), ...);
+  });
 }
 
 }  // namespace orb::blas::tiles

@@ -100,6 +100,14 @@ TYPED_TEST(Update, EveryEdge) {
         }
 }
 
+TYPED_TEST(Update, SeveralBlocksOfRows) {
+  using Alpha = typename TestFixture::Alpha;
+  using Beta = typename TestFixture::Beta;
+  const int block = 512 * 1024 / 128 / int(sizeof(typename TestFixture::T));
+  for (char uplo : {'U', 'L'})
+    this->check(uplo, uplo == 'U' ? 'N' : this->across, block + 5, 9, element<Alpha>(1), element<Beta>(3), 0);
+}
+
 // A and B are null pointers: they may not be read.
 TYPED_TEST(Update, NothingToMultiply) {
   using T = typename TestFixture::T;
