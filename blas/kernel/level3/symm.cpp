@@ -5,12 +5,14 @@
 
 #include "blas/kernel/level3/product.h"
 #include "blas/kernel/level3/scalars.h"
+#include "blas/kernel/level3/tile_product.h"
 #include "orb/services.h"
 
 namespace orb::blas {
 namespace {
 
 constexpr int most_width = 256;  // of a block column: two full panels of the products
+constexpr int alignment = 64;    // of scratch
 constexpr int small_order = 32;  // a matrix that fits the stack in full
 
 // A symmetric matrix, or a Hermitian one, of which one triangle is stored.
@@ -75,8 +77,12 @@ void multiply(const Call<T>& s, const Triangle<hermitian, T>& a, int order, int 
 
 template <bool hermitian, class T>
 __attribute__((noinline)) void multiply_small(const Call<T>& s, const Triangle<hermitian, T>& a, int order) {
-  T scratch[small_order * small_order];
-  multiply(s, a, order, order, scratch);
+  alignas(16) T scratch[small_order * small_order];
+  a.square(0, order, scratch);
+  const tiles::Operand<T> full('N', scratch, order), b('N', s.b, s.ldb);
+  const tiles::Product<T> p{s.m,    s.n, order, s.alpha, s.left ? full : b, s.left ? b : full,
+                            s.beta, s.c, s.ldc};
+  tiles::with_room<T>(s.m, order, alignment, [&](const tiles::Room<T>& room) { p.run(room, s.n); });
 }
 
 template <bool hermitian, class T>
@@ -87,7 +93,7 @@ void symm(const char* uplo, const Call<T>& s, const T* p, int ld) {
   const Triangle<hermitian, T> a{is_option(uplo, 'U'), p, ld};
   const int order = s.left ? s.m : s.n, most = std::min(order, most_width);
   if (order <= small_order) return multiply_small(s, a, order);
-  T* const scratch = static_cast<T*>(orb_serv_allocate(most * most * int(sizeof(T)), 64));
+  T* const scratch = static_cast<T*>(orb_serv_allocate(most * most * int(sizeof(T)), alignment));
   multiply(s, a, order, most, scratch);
   orb_serv_deallocate(scratch);
 }

@@ -15,13 +15,12 @@ struct TriangleUpdate {
   bool upper;
   Product<T> p;  // X is n by k, Y^T k by n
 
-  // A strip of column j from row i on, which the diagonal crosses: the part inside.
-  template <class R>
-  void write_crossed(const Finish<T>& finish, const R* sum, int i, int j, int rows) const {
-    alignas(16) T x[height];
-    (finish.alpha * finish.join(sum)).store(x);
+  // A strip of column j from row i on, alpha times its terms, which the diagonal crosses: the part inside.
+  __attribute__((noinline)) void write_crossed(vector_of<T> x, Old old, int i, int j, int rows) const {
+    alignas(16) T strip[height];
+    x.store(strip);
     const int from = upper ? i : std::max(i, j), to = upper ? std::min(i + rows, j + 1) : i + rows;
-    for (int r = from; r < to; ++r) add(x[r - i], finish.old, r, j);
+    for (int r = from; r < to; ++r) add(strip[r - i], old, r, j);
   }
   // Element (i, j) takes `sum`, which is alpha times its terms.
   ORB_INLINE void add(T sum, Old old, int i, int j) const {
@@ -52,7 +51,7 @@ struct TriangleUpdate {
                                if (upper ? i + rows <= column : i > column)
                                  finish(sum, p.c + i + column * p.ldc, rows);
                                else
-                                 write_crossed(finish, sum, i, column, rows);
+                                 write_crossed(finish.alpha * finish.join(sum), finish.old, i, column, rows);
                              });
   }
 
