@@ -21,7 +21,7 @@ ORB_BEGIN_DECLS
 /** @{ */
 /** C = alpha op(A) op(B) + beta C, op(A) m by k, op(B) k by n, C m by n. m <= 0 or n <= 0 returns at once;
  *  alpha == 0 or k <= 0 does not read A and B, and with beta == 1 touches nothing. Scratch is one block of
- *  orb_serv_allocate() at alignment 128, none if m min(k, 128) numbers of op(A) fit 16 KiB.
+ *  orb_serv_allocate() at alignment 128, none where op(A) is small: m min(k, 128) numbers within 16 KiB.
  *
  *  The terms come in slices of 128 in rising k. Within a slice an element is two running sums in rising k,
  *  of products with the real and with the imaginary part of op(B); the two are joined, multiplied by alpha
@@ -81,7 +81,8 @@ void orb_blas_xdzgemm(const char* transa, const char* transb, const int* m, cons
 /** C = alpha A B + beta C (side L, A symmetric, m by m) or C = alpha B A + beta C (side R, A n by n); B and C
  *  are m by n. `uplo` tells which triangle of A is stored. m <= 0 or n <= 0 returns at once; alpha == 0 does
  *  not read A and B, and with beta == 1 touches nothing. Scratch: one block of orb_serv_allocate() at
- *  alignment 64 for a diagonal block of A written out in full, beside that of the products. */
+ *  alignment 64 for a diagonal block of A in full, of at most 256 rows, beside that of the products; for an A
+ *  of at most 32 rows none where B is small. */
 void orb_blas_xssymm(const char* side, const char* uplo, const int* m, const int* n, const float* alpha,
                      const float* a, const int* lda, const float* b, const int* ldb, const float* beta,
                      float* c, const int* ldc);
@@ -116,7 +117,10 @@ void orb_blas_xzhemm(const char* side, const char* uplo, const int* m, const int
 /** C = alpha A A^T + beta C (`trans` N, A n by k) or C = alpha A^T A + beta C (otherwise, A k by n), C
  *  symmetric, n by n, of which the triangle `uplo` is updated. n <= 0 returns at once, and so does beta == 1
  *  with alpha == 0 or k <= 0; alpha == 0 does not read A. Scratch: one block of orb_serv_allocate() at
- *  alignment 64 for a diagonal block, beside that of the products. */
+ *  alignment 64, none where op(A) is small: n min(k, 128) numbers within 16 KiB.
+ *
+ *  The terms of an element are summed in slices of 128 in rising k as in orb_blas_xzgemm(), a real element in
+ *  one running sum: its bits depend neither on n nor on the triangle. */
 void orb_blas_xssyrk(const char* uplo, const char* trans, const int* n, const int* k, const float* alpha,
                      const float* a, const int* lda, const float* beta, float* c, const int* ldc);
 void orb_blas_xdsyrk(const char* uplo, const char* trans, const int* n, const int* k, const double* alpha,
@@ -143,7 +147,8 @@ void orb_blas_xzherk(const char* uplo, const char* trans, const int* n, const in
 
 /** @{ */
 /** C = alpha A B^T + alpha B A^T + beta C (`trans` N, A and B n by k) or C = alpha A^T B + alpha B^T A +
- *  beta C (otherwise, A and B k by n), C symmetric; else as orb_blas_xdsyrk(). */
+ *  beta C (otherwise, A and B k by n), C symmetric; else as orb_blas_xdsyrk(), first with the one product and
+ *  then with the other. */
 void orb_blas_xssyr2k(const char* uplo, const char* trans, const int* n, const int* k, const float* alpha,
                       const float* a, const int* lda, const float* b, const int* ldb, const float* beta,
                       float* c, const int* ldc);

@@ -14,8 +14,8 @@ template <class R>
 struct Three {
   R* part[3];
   int rows;
-  Three(R*& room, int rows, int columns) : rows(rows) {
-    for (R*& p : part) p = room, room += rows * columns;
+  Three(R*& room, int height, int columns) : rows(height) {
+    for (R*& p : part) p = room, room += height * columns;
   }
   template <Complex C>
   void take(const Operand<C>& x, int i, int height, int j, int width) const {

@@ -80,9 +80,9 @@ struct Finish {
   Scale<T> alpha, beta;
   Old old;
 
-  Finish(T alpha, T beta, bool conjugate_a, bool conjugate_b)
-      : join(conjugate_a, conjugate_b), alpha(alpha), beta(beta), old(use_of(beta)) {}
-  static Old use_of(T beta) { return is_zero(beta) ? ignored : is_one(beta) ? kept : scaled; }
+  Finish(T product, T previous, bool conjugate_a, bool conjugate_b)
+      : join(conjugate_a, conjugate_b), alpha(product), beta(previous), old(use_of(previous)) {}
+  static Old use_of(T factor) { return is_zero(factor) ? ignored : is_one(factor) ? kept : scaled; }
 
   template <class R, class Rows>
   ORB_INLINE void operator()(const R* sum, T* c, Rows rows) const {
@@ -93,7 +93,7 @@ struct Finish {
   }
 };
 
-// sum[s] += the terms of one strip. `b` holds the splatted columns; the first strip fills it from op(B).
+// sum[s] += the terms of one strip; b holds the splatted columns.
 template <int columns, class T, class R>
 ORB_INLINE void add_terms(int depth, const T* a, real_of<T>* b, R (&sum)[columns * parts<T>]) {
   constexpr int sums = columns * parts<T>;
@@ -106,6 +106,7 @@ ORB_INLINE void add_terms(int depth, const T* a, real_of<T>* b, R (&sum)[columns
   for (; depth >= 4; depth -= 4, a += 4 * height, b += 4 * sums * R::lanes) unroll<4>(add);
   for (; depth > 0; --depth, a += height, b += sums * R::lanes) add(Int<0>{});
 }
+// The same for the first strip, which fills b from op(B) on its way.
 template <int columns, class T, class R>
 ORB_INLINE void add_terms_first(int depth, const T* a, const T* from, int down, int across, real_of<T>* b,
                                 R (&sum)[columns * parts<T>]) {

@@ -9,11 +9,13 @@ namespace orb::blas::tiles {
 
 constexpr int most_depth = 128;  // terms of one slice of k
 
-// A tile is a register of rows by as many columns as make six registers of sums. A complex column takes two.
+// A tile is a register of rows by as many columns as make six registers of sums, which leaves one for the
+// rows and one for the products. A complex column takes two.
+constexpr int tile_sums = 6;
 template <class T>
 constexpr int parts = Complex<T> ? 2 : 1;
 template <class T>
-constexpr int tile_columns = 6 / parts<T>;
+constexpr int tile_columns = tile_sums / parts<T>;
 
 // op(A) without its conjugation: strips of as many rows as a register has numbers, each strip the slice's
 // whole depth. Rows beyond the last are zero.
@@ -34,6 +36,6 @@ struct RowStrips {
 //
 // The most room that they take, in real numbers:
 template <class T>
-constexpr int splat_reals = most_depth * 6 * vector_of<real_of<T>>::lanes;
+constexpr int splat_reals = most_depth* tile_sums* vector_of<real_of<T>>::lanes;
 
 }  // namespace orb::blas::tiles

@@ -88,8 +88,9 @@ TYPED_TEST_SUITE(Product, Products);
 const char* const transposes[] = {"NN", "nT", "NC", "tn", "TT", "TC", "Cn", "CT", "cc"};
 
 TYPED_TEST(Product, EveryEdge) {
-  using T = typename TestFixture::T;
-  const T factors[] = {element<T>(1), element<T>(0), element<T>(-2, 1), element<T>(0, 2)};
+  using Number = typename TestFixture::T;
+  const Number factors[] = {element<Number>(1), element<Number>(0), element<Number>(-2, 1),
+                            element<Number>(0, 2)};
   int turn = 0;
   for (const char* trans : transposes)
     for (int m : {1, 2, 3, 5, 8})
@@ -101,12 +102,12 @@ TYPED_TEST(Product, EveryEdge) {
 }
 
 TYPED_TEST(Product, SlicesAndBlocks) {
-  using T = typename TestFixture::T;
+  using Number = typename TestFixture::T;
   int turn = 0;
   for (const char* trans : transposes) {
     const auto check = [&](int m, int n, int k) {
       ++turn;
-      this->check({trans, m, n, k}, element<T>(1, -1), element<T>(turn % 3), turn % 16);
+      this->check({trans, m, n, k}, element<Number>(1, -1), element<Number>(turn % 3), turn % 16);
     };
     for (int k : {127, 128, 129, 257}) check(5, 4, k), check(37, 7, k);
     for (int m : {255, 257, 511, 513}) check(m, 4, 130);
@@ -117,26 +118,26 @@ TYPED_TEST(Product, SlicesAndBlocks) {
 }
 
 TYPED_TEST(Product, NothingToMultiply) {
-  using T = typename TestFixture::T;
+  using Number = typename TestFixture::T;
   for (double beta : {0., 1., -2.})
     for (int k : {0, -1, 40}) {
       const int m = 37, n = 5;
-      const IntegerMatrix<T> c(m, n, 4, 2, 1);
-      if (beta == 0) c(m - 1, n - 1) = element<T>(NAN, NAN);
+      const IntegerMatrix<Number> c(m, n, 4, 2, 1);
+      if (beta == 0) c(m - 1, n - 1) = element<Number>(NAN, NAN);
       auto expected = c.all();
       if (beta != 1)
         for (int j = 0; j < n; ++j)
           for (int i = 0; i < m; ++i) {
-            T& e = expected[size_t(i + j * c.ld)];
-            e = beta == 0 ? T{} : multiply(element<T>(beta), e);
+            Number& e = expected[size_t(i + j * c.ld)];
+            e = beta == 0 ? Number{} : multiply(element<Number>(beta), e);
           }
       // A and B are null pointers: they may not be read.
-      this->run({"NC", m, n, k}, element<T>(k > 0 ? -0. : 3), nullptr, m, nullptr, n, element<T>(beta),
-                c.data(), c.ld);
+      this->run({"NC", m, n, k}, element<Number>(k > 0 ? -0. : 3), nullptr, m, nullptr, n,
+                element<Number>(beta), c.data(), c.ld);
       EXPECT_TRUE(equal_numbers(c.all(), expected)) << "beta " << beta << " k " << k;
     }
   for (const auto& [m, n] : {std::pair{0, 50}, {50, 0}, {-1, 50}, {50, -7}})
-    this->run({"NN", m, n, 9}, element<T>(2), nullptr, 50, nullptr, 50, T{}, nullptr, 50);
+    this->run({"NN", m, n, 9}, element<Number>(2), nullptr, 50, nullptr, 50, Number{}, nullptr, 50);
   EXPECT_TRUE(spy().scratch.empty());
 }
 
@@ -144,7 +145,7 @@ TYPED_TEST(Product, NothingToMultiply) {
 // with three products, whose imaginary part takes (|Ar| + |Ai|) (|Br| + |Bi|) and two differences, 4 (k + 5)
 // u.
 TYPED_TEST(Product, ErrorBound) {
-  using T = typename TestFixture::T;
+  using Number = typename TestFixture::T;
   using Wide = std::complex<long double>;
   const auto wide = [](auto x) {
     if constexpr (is_complex<decltype(x)>)
@@ -152,16 +153,16 @@ TYPED_TEST(Product, ErrorBound) {
     else
       return Wide(x);
   };
-  const T alpha = element<T>(0.7, -1.3), beta = element<T>(-0.4, 0.9);
+  const Number alpha = element<Number>(0.7, -1.3), beta = element<Number>(-0.4, 0.9);
   constexpr bool three = std::is_same_v<TypeParam, CGemm3m> || std::is_same_v<TypeParam, ZGemm3m>;
   for (const char* trans : {"NN", "CT", "TC", "NC"})
     for (const int k : {3, 100, 300}) {
       const Shape s{trans, 61, 55, k};
       const auto a = operand<typename TestFixture::A>(s.trans[0], s.m, k, 5, 0);
-      const auto b = operand<T>(s.trans[1], k, s.n, 6, 1);
-      const IntegerMatrix<T> c(s.m, s.n, 7), start(s.m, s.n, 7);
+      const auto b = operand<Number>(s.trans[1], k, s.n, 6, 1);
+      const IntegerMatrix<Number> c(s.m, s.n, 7), start(s.m, s.n, 7);
       for (int j = 0; j < b.cols; ++j)
-        for (int i = 0; i < b.rows; ++i) b(i, j) = multiply(element<T>(1. / 3, 1. / 7), b(i, j));
+        for (int i = 0; i < b.rows; ++i) b(i, j) = multiply(element<Number>(1. / 3, 1. / 7), b(i, j));
       this->run(s, alpha, a.data(), a.ld, b.data(), b.ld, beta, c.data(), c.ld);
       for (int j = 0; j < s.n; ++j)
         for (int i = 0; i < s.m; ++i) {
@@ -171,7 +172,7 @@ TYPED_TEST(Product, ErrorBound) {
             const Wide term = wide(alpha) * wide(op(a, trans[0], i, t)) * wide(op(b, trans[1], t, j));
             sum += term, size += std::abs(term);
           }
-          const long double u = sizeof(T) == 16 ? 0x1p-53L : 0x1p-24L;
+          const long double u = sizeof(Number) == 16 ? 0x1p-53L : 0x1p-24L;
           ASSERT_LE(std::abs(wide(c(i, j)) - sum), u * size * (three ? 4 * (k + 5) : 2 * sqrtl(2) * (k + 2)))
               << s;
         }
@@ -185,12 +186,12 @@ TYPED_TEST_SUITE(Driver, Drivers);
 
 // Whole or in pieces, an element has the same bits. The values round at nearly every step.
 TYPED_TEST(Driver, CutsKeepTheBits) {
-  using T = typename TestFixture::T;
+  using Number = typename TestFixture::T;
   const int k = 300;
   for (const auto& [m, n, rows, columns] : {std::array{40, 29, 7, 6}, {150, 131, 75, 66}}) {
-    const IntegerMatrix<T> a(m, k, 1), b(k, n, 2), whole(m, n, 3), pieces(m, n, 3);
-    for (int i = 0; i < k * n; ++i) b.data()[i] = value<T>(i);
-    const T alpha = element<T>(1. / 3, 0.1), beta = element<T>(0.3, -0.7);
+    const IntegerMatrix<Number> a(m, k, 1), b(k, n, 2), whole(m, n, 3), pieces(m, n, 3);
+    for (int i = 0; i < k * n; ++i) b.data()[i] = value<Number>(i);
+    const Number alpha = element<Number>(1. / 3, 0.1), beta = element<Number>(0.3, -0.7);
     this->run({"NN", m, n, k}, alpha, a.data(), m, b.data(), k, beta, whole.data(), m);
     for (int j = 0; j < n; j += columns)
       for (int i = 0; i < m; i += rows)
@@ -200,16 +201,27 @@ TYPED_TEST(Driver, CutsKeepTheBits) {
   }
 }
 
+TYPED_TEST(Driver, RealFactorsKeepInfinity) {
+  using Number = typename TestFixture::T;
+  const Number big = element<Number>(sizeof(Number) == 16 ? 1e300 : 1e30),
+               infinite = element<Number>(INFINITY);
+  for (const double beta : {0., 1., 2.}) {
+    Number to = infinite;
+    this->run({"NN", 1, 1, 1}, element<Number>(3), &big, 1, &big, 1, element<Number>(beta), &to, 1);
+    EXPECT_TRUE(same(to, infinite)) << shown(to);
+  }
+}
+
 TYPED_TEST(Driver, AsksForScratchOnceAndForColumnsAtTheEdge) {
-  using T = typename TestFixture::T;
-  const bool twofold = sizeof(T) == 16;
+  using Number = typename TestFixture::T;
+  const bool twofold = sizeof(Number) == 16;
   spy().l2cache = 3;
-  this->check({"NN", 8, 300, 100}, element<T>(1), element<T>(1), 0);
+  this->check({"NN", 8, 300, 100}, element<Number>(1), element<Number>(1), 0);
   EXPECT_TRUE(spy().scratch.empty()) << "a small product";
   EXPECT_EQ(spy().gemv_calls, 0);
-  this->check({"TN", 70, 65, 66}, element<T>(1), element<T>(1), 0);
+  this->check({"TN", 70, 65, 66}, element<Number>(1), element<Number>(1), 0);
   EXPECT_EQ(spy().gemv_calls, twofold ? 2 : 0);
-  this->check({"TC", 70, 65, 66}, element<T>(1), element<T>(1), 0);
+  this->check({"TC", 70, 65, 66}, element<Number>(1), element<Number>(1), 0);
   EXPECT_EQ(spy().gemv_calls, twofold ? 2 : 0) << "gemv cannot conjugate its vector";
   ASSERT_EQ(spy().scratch.size(), 2u);
   for (const auto& request : spy().scratch) EXPECT_EQ(request.alignment, 128);

@@ -66,50 +66,50 @@ TYPED_TEST_SUITE(Symmetric, Routines);
 const char* const options[] = {"LU", "lL", "rU", "RL"};
 
 TYPED_TEST(Symmetric, EveryEdge) {
-  using T = typename TestFixture::T;
-  const T betas[] = {element<T>(1), element<T>(0), element<T>(2, -1)};
+  using Number = typename TestFixture::T;
+  const Number betas[] = {element<Number>(1), element<Number>(0), element<Number>(2, -1)};
   int turn = 0;
   for (const char* o : options)
     for (int m : {1, 2, 3, 5, 8, 33})
       for (int n : {1, 2, 4, 7, 9, 34}) {
         ++turn;
-        this->check(o[0], o[1], m, n, element<T>(2, 1), betas[turn % 3], turn % 16);
+        this->check(o[0], o[1], m, n, element<Number>(2, 1), betas[turn % 3], turn % 16);
       }
 }
 
 TYPED_TEST(Symmetric, SeveralBlocks) {
-  using T = typename TestFixture::T;
+  using Number = typename TestFixture::T;
   for (const char* o : options)
     for (int order : {255, 257, 515}) {
       this->check(o[0], o[1], o[0] == 'L' || o[0] == 'l' ? order : 9, o[0] == 'L' || o[0] == 'l' ? 9 : order,
-                  element<T>(-1, 1), element<T>(1), order % 16);
+                  element<Number>(-1, 1), element<Number>(1), order % 16);
     }
 }
 
 // A and B are null pointers where they may not be read.
 TYPED_TEST(Symmetric, NothingToMultiply) {
-  using T = typename TestFixture::T;
-  const T none{};
+  using Number = typename TestFixture::T;
+  const Number none{};
   for (double beta : {0., 1., 3.}) {
-    const IntegerMatrix<T> c(20, 11, 4, 1);
+    const IntegerMatrix<Number> c(20, 11, 4, 1);
     auto expected = c.all();
     for (int j = 0; j < 11; ++j)
       for (int i = 0; i < 20; ++i) {
-        T& e = expected[size_t(i + j * c.ld)];
-        e = finished(T{}, T{}, element<T>(beta), e);
+        Number& e = expected[size_t(i + j * c.ld)];
+        e = finished(Number{}, Number{}, element<Number>(beta), e);
       }
-    if (beta == 0) c(3, 4) = element<T>(NAN, NAN);
-    this->run('R', 'U', 20, 11, none, nullptr, 11, nullptr, 20, element<T>(beta), c.data(), c.ld);
+    if (beta == 0) c(3, 4) = element<Number>(NAN, NAN);
+    this->run('R', 'U', 20, 11, none, nullptr, 11, nullptr, 20, element<Number>(beta), c.data(), c.ld);
     EXPECT_TRUE(equal_numbers(c.all(), expected)) << "beta " << beta;
   }
   for (const auto& [m, n] : {std::pair{0, 5}, {5, 0}, {-1, 5}, {5, -3}})
-    this->run('L', 'L', m, n, element<T>(1), nullptr, 5, nullptr, 5, none, nullptr, 5);
+    this->run('L', 'L', m, n, element<Number>(1), nullptr, 5, nullptr, 5, none, nullptr, 5);
   EXPECT_TRUE(spy().scratch.empty());
 }
 
 TYPED_TEST(Symmetric, ScratchOfItsOwnAtLines) {
-  using T = typename TestFixture::T;
-  this->check('L', 'L', 300, 40, element<T>(1), element<T>(1), 0);
+  using Number = typename TestFixture::T;
+  this->check('L', 'L', 300, 40, element<Number>(1), element<Number>(1), 0);
   ASSERT_FALSE(spy().scratch.empty());
   EXPECT_EQ(spy().scratch[0].alignment, 64);
 }

@@ -87,58 +87,59 @@ using Routines = testing::Types<
 TYPED_TEST_SUITE(Update, Routines);
 
 TYPED_TEST(Update, EveryEdge) {
-  using Alpha = typename TestFixture::Alpha;
-  using Beta = typename TestFixture::Beta;
-  const Beta betas[] = {element<Beta>(1), element<Beta>(0), element<Beta>(2, -1)};
+  using Factor = typename TestFixture::Alpha;
+  using Weight = typename TestFixture::Beta;
+  const Weight betas[] = {element<Weight>(1), element<Weight>(0), element<Weight>(2, -1)};
   int turn = 0;
   for (char uplo : {'U', 'L'})
     for (char trans : {'N', this->across})
       for (int n : {1, 2, 3, 4, 5, 9, 17, 31, 47, 48, 49, 50, 97, 150})
         for (int k : {1, 3, 8, 130}) {
           ++turn;
-          this->check(uplo, trans, n, k, element<Alpha>(-2, 1), betas[turn % 3], turn % 16);
+          this->check(uplo, trans, n, k, element<Factor>(-2, 1), betas[turn % 3], turn % 16);
         }
 }
 
 TYPED_TEST(Update, SeveralBlocksOfRows) {
-  using Alpha = typename TestFixture::Alpha;
-  using Beta = typename TestFixture::Beta;
+  using Factor = typename TestFixture::Alpha;
+  using Weight = typename TestFixture::Beta;
   const int block = 512 * 1024 / 128 / int(sizeof(typename TestFixture::T));
   for (char uplo : {'U', 'L'})
-    this->check(uplo, uplo == 'U' ? 'N' : this->across, block + 5, 9, element<Alpha>(1), element<Beta>(3), 0);
+    this->check(uplo, uplo == 'U' ? 'N' : this->across, block + 5, 9, element<Factor>(1), element<Weight>(3),
+                0);
 }
 
 // A and B are null pointers: they may not be read.
 TYPED_TEST(Update, NothingToMultiply) {
-  using T = typename TestFixture::T;
-  using Alpha = typename TestFixture::Alpha;
-  using Beta = typename TestFixture::Beta;
+  using Number = typename TestFixture::T;
+  using Factor = typename TestFixture::Alpha;
+  using Weight = typename TestFixture::Beta;
   const int n = 60;
   for (char uplo : {'U', 'L'})
     for (double beta : {0., 1., 3.})
       for (int k : {0, -2, 5}) {
-        const IntegerMatrix<T> c(n, n, 3, 1);
-        this->hide(c, uplo, element<Beta>(beta));
+        const IntegerMatrix<Number> c(n, n, 3, 1);
+        this->hide(c, uplo, element<Weight>(beta));
         auto expected = c.all();
         for (int j = 0; j < n; ++j)
           for (int i = uplo == 'U' ? 0 : j; i < (uplo == 'U' ? j + 1 : n); ++i) {
-            T& e = expected[size_t(i + j * c.ld)];
-            if (beta != 1) e = beta == 0 ? T{} : multiply(element<Beta>(beta), e);
-            if constexpr (is_complex<T> && !is_complex<Beta>)
+            Number& e = expected[size_t(i + j * c.ld)];
+            if (beta != 1) e = beta == 0 ? Number{} : multiply(element<Weight>(beta), e);
+            if constexpr (is_complex<Number> && !is_complex<Weight>)
               if (i == j && beta != 1) e.im = 0;
           }
-        this->run(uplo, 'N', n, k, element<Alpha>(k > 0 ? 0 : 2), nullptr, n, nullptr, n, element<Beta>(beta),
-                  c.data(), c.ld);
+        this->run(uplo, 'N', n, k, element<Factor>(k > 0 ? 0 : 2), nullptr, n, nullptr, n,
+                  element<Weight>(beta), c.data(), c.ld);
         EXPECT_TRUE(equal_numbers(c.all(), expected)) << uplo << " beta " << beta << " k " << k;
       }
   for (int none : {0, -4})
-    this->run('U', 'N', none, 5, element<Alpha>(1), nullptr, 5, nullptr, 5, Beta{}, nullptr, 5);
+    this->run('U', 'N', none, 5, element<Factor>(1), nullptr, 5, nullptr, 5, Weight{}, nullptr, 5);
 }
 
 TYPED_TEST(Update, ScratchOfItsOwnAtLines) {
-  using Alpha = typename TestFixture::Alpha;
-  using Beta = typename TestFixture::Beta;
-  this->check('L', 'N', 150, 70, element<Alpha>(1), element<Beta>(1), 0);
+  using Factor = typename TestFixture::Alpha;
+  using Weight = typename TestFixture::Beta;
+  this->check('L', 'N', 150, 70, element<Factor>(1), element<Weight>(1), 0);
   ASSERT_FALSE(spy().scratch.empty());
   EXPECT_EQ(spy().scratch[0].alignment, 64);
 }
