@@ -3,7 +3,7 @@
 //   load, store     16-byte boundary required (one-element twins: none)
 //   loadu, storeu   any address
 //   low             one element into the first lane, zero elsewhere
-//   gather          elements `step` apart, first element into the first lane
+//   gather          elements `step` apart, first element into the first lane; scatter puts them back
 //   pair            two values in the first lanes, zero elsewhere; load_pair, store_pair: at any address
 //   add_low         a scalar added to the first lane, the others as they were
 //   widen           singles from any address as doubles
@@ -37,6 +37,7 @@ struct f64x2 {
   static ORB_INLINE f64x2 loadu(const double* p) { return {_mm_loadu_pd(p)}; }
   static ORB_INLINE f64x2 low(const double* p) { return {_mm_load_sd(p)}; }
   static ORB_INLINE f64x2 gather(const double* p, int step) { return {_mm_set_pd(p[step], p[0])}; }
+  ORB_INLINE void scatter(double* p, int step) const { _mm_storel_pd(p, v), _mm_storeh_pd(p + step, v); }
   static ORB_INLINE f64x2 pair(double a, double b) { return {_mm_setr_pd(a, b)}; }
   static ORB_INLINE f64x2 load_pair(const double* p) { return loadu(p); }
   ORB_INLINE void store_pair(double* p) const { storeu(p); }
@@ -85,6 +86,7 @@ struct f64x2 {
   friend ORB_INLINE f64x2 operator+(f64x2 a, f64x2 b) { return {_mm_add_pd(a.v, b.v)}; }
   friend ORB_INLINE f64x2 operator-(f64x2 a, f64x2 b) { return {_mm_sub_pd(a.v, b.v)}; }
   friend ORB_INLINE f64x2 operator*(f64x2 a, f64x2 b) { return {_mm_mul_pd(a.v, b.v)}; }
+  friend ORB_INLINE f64x2 operator/(f64x2 a, f64x2 b) { return {_mm_div_pd(a.v, b.v)}; }
   ORB_INLINE f64x2& operator+=(f64x2 b) { return *this = *this + b; }
 };
 
@@ -178,6 +180,7 @@ struct f32x4 {
   friend ORB_INLINE f32x4 operator+(f32x4 a, f32x4 b) { return {_mm_add_ps(a.v, b.v)}; }
   friend ORB_INLINE f32x4 operator-(f32x4 a, f32x4 b) { return {_mm_sub_ps(a.v, b.v)}; }
   friend ORB_INLINE f32x4 operator*(f32x4 a, f32x4 b) { return {_mm_mul_ps(a.v, b.v)}; }
+  friend ORB_INLINE f32x4 operator/(f32x4 a, f32x4 b) { return {_mm_div_ps(a.v, b.v)}; }
   ORB_INLINE f32x4& operator+=(f32x4 b) { return *this = *this + b; }
 };
 
