@@ -18,6 +18,7 @@ const char* const families[] = {
     "blas-gemm-driver",   //
     "blas-gemm-kernels",  //
     "blas-level3",        //
+    "blas-trmm",          //
     "blas-trsm",          //
 };
 
