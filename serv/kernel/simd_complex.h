@@ -105,6 +105,11 @@ struct ComplexLane {
 };
 
 template <Complex C>
+ORB_INLINE void keep_in_registers(ComplexVector<C> (&sum)[4]) {
+  asm volatile("" : "+x"(sum[0].v.v), "+x"(sum[1].v.v), "+x"(sum[2].v.v), "+x"(sum[3].v.v));
+}
+
+template <Complex C>
 struct VectorOf<C> {
   using type = ComplexVector<C>;
 };

@@ -89,6 +89,7 @@ class Panel {
         const V xr = V::load(x + (r + k) * width);
         const Coefficient<T>* const cr = c + (r + k) * quad;
         unroll<quad>([&](auto s) ORB_INLINE_BODY { sum[s] += cr[s].spread() * xr; });
+        keep_in_registers(sum);
       });
   }
 
