@@ -48,7 +48,7 @@ TEST(Scratch, GivesAThreadItsBlocksAgain) {
   orb_serv_deallocate(inner);
 }
 
-#if !defined(__SANITIZE_ADDRESS__)  // its allocator keeps no such count, and ends the process itself
+#if !ORB_SANITIZED  // the allocator of that preset keeps no such count, and ends the process itself
 // What the system's allocator has handed out beyond its heap: all blocks of half a megabyte and more.
 size_t large_blocks() { return mallinfo2().hblkhd; }
 TEST(Scratch, KeepsNoMoreThanItsBoundsAndNothingPastItsThread) {
