@@ -47,5 +47,7 @@ std::vector<Case> all_cases();
 
 void add_level1(std::vector<Case>&);
 void add_gemm(std::vector<Case>&);
+void add_level2(std::vector<Case>&);
+void add_level3(std::vector<Case>&);
 
 }  // namespace orb::bench

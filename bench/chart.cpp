@@ -1,5 +1,6 @@
 #include "bench/chart.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <map>
@@ -48,8 +49,14 @@ const char* style_of(std::size_t library, const Libraries& libraries) {
   return styles[std::min(place, std::size(styles) - 1)];
 }
 
+// A curve's data block: names of routines may have spaces, those of blocks not.
+std::string block_of(std::string name) {
+  std::replace(name.begin(), name.end(), ' ', '_');
+  return '$' + name;
+}
+
 void write_data(std::ostream& out, const std::string& name, const Curve& curve) {
-  out << '$' << name << " << END\n";
+  out << block_of(name) << " << END\n";
   for (const Result* result : curve) {
     out << result->subject->abscissa;
     for (const auto& m : result->by_library)
@@ -61,10 +68,13 @@ void write_data(std::ostream& out, const std::string& name, const Curve& curve) 
 
 void write_panel(std::ostream& out, const std::string& name, const Curve& curve, const Libraries& libraries) {
   const Case& subject = *curve[0]->subject;
-  out << "set title '" << subject.entry << "'\nset ylabel '" << name_of(subject.work.unit) << "'\nplot";
+  const std::string& routine = subject.routine;
+  const std::string option = routine.find(' ') < routine.size() ? routine.substr(routine.find(' ')) : "";
+  out << "set title '" << subject.entry << option << "'\nset ylabel '" << name_of(subject.work.unit)
+      << "'\nplot";
   for (std::size_t i = 0; i < libraries.open.size(); ++i)
-    out << (i ? ", " : " ") << '$' << name << " using 1:" << i + 2 << " with linespoints linetype " << i + 1
-        << " notitle";
+    out << (i ? ", " : " ") << block_of(name) << " using 1:" << i + 2 << " with linespoints linetype "
+        << i + 1 << " notitle";
   out << '\n';
 }
 
