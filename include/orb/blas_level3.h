@@ -178,6 +178,54 @@ void orb_blas_xzher2k(const char* uplo, const char* trans, const int* n, const i
                       const int* ldc);
 /** @} */
 
+/** @{ */
+/** The same updates of *count columns of C from column *first on, a multiple of 48, for a caller that divides
+ * the work: parts that make up all columns give the bits of the whole. */
+void orb_blas_ssyrk_part(const char* uplo, const char* trans, const int* n, const int* k, const float* alpha,
+                         const float* a, const int* lda, const float* beta, float* c, const int* ldc,
+                         const int* first, const int* count);
+void orb_blas_dsyrk_part(const char* uplo, const char* trans, const int* n, const int* k, const double* alpha,
+                         const double* a, const int* lda, const double* beta, double* c, const int* ldc,
+                         const int* first, const int* count);
+void orb_blas_csyrk_part(const char* uplo, const char* trans, const int* n, const int* k,
+                         const orb_complex_float* alpha, const orb_complex_float* a, const int* lda,
+                         const orb_complex_float* beta, orb_complex_float* c, const int* ldc,
+                         const int* first, const int* count);
+void orb_blas_zsyrk_part(const char* uplo, const char* trans, const int* n, const int* k,
+                         const orb_complex_double* alpha, const orb_complex_double* a, const int* lda,
+                         const orb_complex_double* beta, orb_complex_double* c, const int* ldc,
+                         const int* first, const int* count);
+void orb_blas_cherk_part(const char* uplo, const char* trans, const int* n, const int* k, const float* alpha,
+                         const orb_complex_float* a, const int* lda, const float* beta, orb_complex_float* c,
+                         const int* ldc, const int* first, const int* count);
+void orb_blas_zherk_part(const char* uplo, const char* trans, const int* n, const int* k, const double* alpha,
+                         const orb_complex_double* a, const int* lda, const double* beta,
+                         orb_complex_double* c, const int* ldc, const int* first, const int* count);
+void orb_blas_ssyr2k_part(const char* uplo, const char* trans, const int* n, const int* k, const float* alpha,
+                          const float* a, const int* lda, const float* b, const int* ldb, const float* beta,
+                          float* c, const int* ldc, const int* first, const int* count);
+void orb_blas_dsyr2k_part(const char* uplo, const char* trans, const int* n, const int* k,
+                          const double* alpha, const double* a, const int* lda, const double* b,
+                          const int* ldb, const double* beta, double* c, const int* ldc, const int* first,
+                          const int* count);
+void orb_blas_csyr2k_part(const char* uplo, const char* trans, const int* n, const int* k,
+                          const orb_complex_float* alpha, const orb_complex_float* a, const int* lda,
+                          const orb_complex_float* b, const int* ldb, const orb_complex_float* beta,
+                          orb_complex_float* c, const int* ldc, const int* first, const int* count);
+void orb_blas_zsyr2k_part(const char* uplo, const char* trans, const int* n, const int* k,
+                          const orb_complex_double* alpha, const orb_complex_double* a, const int* lda,
+                          const orb_complex_double* b, const int* ldb, const orb_complex_double* beta,
+                          orb_complex_double* c, const int* ldc, const int* first, const int* count);
+void orb_blas_cher2k_part(const char* uplo, const char* trans, const int* n, const int* k,
+                          const orb_complex_float* alpha, const orb_complex_float* a, const int* lda,
+                          const orb_complex_float* b, const int* ldb, const float* beta, orb_complex_float* c,
+                          const int* ldc, const int* first, const int* count);
+void orb_blas_zher2k_part(const char* uplo, const char* trans, const int* n, const int* k,
+                          const orb_complex_double* alpha, const orb_complex_double* a, const int* lda,
+                          const orb_complex_double* b, const int* ldb, const double* beta,
+                          orb_complex_double* c, const int* ldc, const int* first, const int* count);
+/** @} */
+
 ORB_END_DECLS
 
 #endif

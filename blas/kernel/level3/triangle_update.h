@@ -8,12 +8,19 @@
 
 namespace orb::blas::tiles {
 
+// Columns of C.
+struct ColumnRange {
+  int from, to;
+};
+
+// `part`: the columns that are updated; from a multiple of 48 on, whole strips and groups of columns.
 template <bool hermitian, class T>
 struct TriangleUpdate {
   static constexpr int height = RowStrips<T>::height, width = tile_columns<T>;
   using Old = typename Finish<T>::Old;
   bool upper;
   Product<T> p;  // X is n by k, Y^T k by n
+  ColumnRange part;
 
   // A strip of column j from row i on, alpha times its terms, which the diagonal crosses: the part inside.
   __attribute__((noinline)) void write_crossed(vector_of<T> x, Old old, int i, int j, int rows) const {
@@ -58,12 +65,13 @@ struct TriangleUpdate {
   void run(const Room<T>& room) const {
     const Finish<T> first(p.alpha, p.beta, p.a.conjugate, p.b.conjugate);
     const Finish<T> later(p.alpha, number<T>(1), p.a.conjugate, p.b.conjugate);
+    const int last_row = upper ? part.to : p.m;
     for (int t = 0; t < p.k; t += most_depth) {
       const RowStrips<T> panel{room.panel, std::min(most_depth, p.k - t)};
-      for (int row = 0; row < p.m; row += room.rows) {
-        const int end = std::min(p.m, row + room.rows), stop = upper ? p.n : end;
+      for (int row = upper ? 0 : part.from; row < last_row; row += room.rows) {
+        const int end = std::min(last_row, row + room.rows), stop = upper ? part.to : std::min(end, part.to);
         pack(p.a, row, end - row, t, panel);
-        int j = upper ? row - row % width : 0;
+        int j = upper ? std::max(row - row % width, part.from) : part.from;
         const auto add = [&](auto columns) {
           add_columns<columns>(row, end, t, j, panel, room.splats, t == 0 ? first : later);
         };
@@ -76,7 +84,7 @@ struct TriangleUpdate {
   // add_to(i, j) for every element of the triangle
   template <class AddTo>
   ORB_INLINE void for_each(AddTo add_to) const {
-    for (int j = 0; j < p.n; ++j)
+    for (int j = part.from; j < part.to; ++j)
       for (int i = upper ? 0 : j; i < (upper ? j + 1 : p.n); ++i) add_to(i, j);
   }
 
@@ -106,16 +114,16 @@ struct Term {
   int ldy;
 };
 
-// C takes one term, or two of which the second is the mirror image of the first.
+// The columns of `part` of C take one term, or two of which the second is the mirror image of the first.
 template <bool hermitian, class T, class... Second>
-void update_triangle(const char* uplo, const char* trans, int n, int k, T beta, T* c, int ldc, Term<T> first,
-                     Second... second) {
+void update_triangle(const char* uplo, const char* trans, int n, int k, T beta, T* c, int ldc,
+                     ColumnRange part, Term<T> first, Second... second) {
   constexpr int alignment = 64;
   constexpr char across = hermitian ? 'C' : 'T';
   const bool upper = is_option(uplo, 'U'), plain = is_option(trans, 'N');
   const auto update = [&](const Term<T>& t, T old) {
     const Operand<T> x{plain ? 'N' : across, t.x, t.ldx}, y{plain ? across : 'N', t.y, t.ldy};
-    return TriangleUpdate<hermitian, T>{upper, {n, n, k, t.alpha, x, y, old, c, ldc}};
+    return TriangleUpdate<hermitian, T>{upper, {n, n, k, t.alpha, x, y, old, c, ldc}, part};
   };
   const auto u = update(first, beta);
   const bool nothing = is_zero(first.alpha) || k <= 0;
