@@ -5,6 +5,9 @@
 
 #include "orb/blas_gemm.h"
 #include "orb/blas_level1.h"
+#include "orb/blas_level2.h"
+#include "orb/blas_level3.h"
+#include "orb/blas_triangular.h"
 #include "outer/boundary.h"
 
 namespace orb {

@@ -21,6 +21,8 @@
 
 #include <stddef.h>
 
+#include "orb/fortran_level2.h"
+#include "orb/fortran_level3.h"
 #include "orb/types.h"
 
 ORB_BEGIN_DECLS
@@ -42,6 +44,18 @@ void caxpy_(const int* n, const orb_complex_float* alpha, const orb_complex_floa
             orb_complex_float* y, const int* incy);
 void zaxpy_(const int* n, const orb_complex_double* alpha, const orb_complex_double* x, const int* incx,
             orb_complex_double* y, const int* incy);
+/** @} */
+
+/** @{ */
+/** y = alpha x + beta y; a factor of 0 means that its vector is not read. */
+void saxpby_(const int* n, const float* alpha, const float* x, const int* incx, const float* beta, float* y,
+             const int* incy);
+void daxpby_(const int* n, const double* alpha, const double* x, const int* incx, const double* beta,
+             double* y, const int* incy);
+void caxpby_(const int* n, const orb_complex_float* alpha, const orb_complex_float* x, const int* incx,
+             const orb_complex_float* beta, orb_complex_float* y, const int* incy);
+void zaxpby_(const int* n, const orb_complex_double* alpha, const orb_complex_double* x, const int* incx,
+             const orb_complex_double* beta, orb_complex_double* y, const int* incy);
 /** @} */
 
 /** @{ */
@@ -222,33 +236,15 @@ void sroti_(const int* nz, float* x, const int* indx, float* y, const float* c, 
 void droti_(const int* nz, double* x, const int* indx, double* y, const double* c, const double* s);
 /** @} */
 
-/* Matrix products */
-
-/** @{ */
-/** C = alpha op(A) op(B) + beta C; op(A) m by k, op(B) k by n, C m by n, column-major, leading dimensions in
- *  elements. op is the matrix as it stands for N, its transpose for T or C, in either case of letter. beta ==
- * 0 does not read C. Nothing is touched for m == 0, n == 0, or beta == 1 with alpha == 0 or k == 0.
- *
- *  A bad argument is reported to xerbla_() by its place: a letter (1, 2), m, n or k below 0 (3, 4, 5), lda,
- * ldb or ldc below 1 or below the rows of A, B or C as stored (8, 10, 13); the first one found. The routine
- * then returns and has touched nothing.
- *
- *  Large products are divided among threads (orb_set_num_threads()). The result has the same bits for every
- *  number of threads. */
-void sgemm_(const char* transa, const char* transb, const int* m, const int* n, const int* k,
-            const float* alpha, const float* a, const int* lda, const float* b, const int* ldb,
-            const float* beta, float* c, const int* ldc);
-void dgemm_(const char* transa, const char* transb, const int* m, const int* n, const int* k,
-            const double* alpha, const double* a, const int* lda, const double* b, const int* ldb,
-            const double* beta, double* c, const int* ldc);
-/** @} */
-
 /* Support */
 
 /** Told of every bad argument: the routine's name in capitals, blank-padded to six characters, and the place
  * of the argument. A program may define its own; it wins over this one, which prints a line to the standard
  * error stream and returns. If it returns, the BLAS routine returns to its caller. */
 void xerbla_(const char* name, const int* place, size_t name_length);
+
+/** The same for callers that hold the name as single characters: `length` of them, of which 32 count. */
+void xerbla_array_(const char* name, const int* length, const int* place);
 
 /** Non-zero if the characters at `a` and `b` are equal but for case. */
 int lsame_(const char* a, const char* b, size_t length_a, size_t length_b);

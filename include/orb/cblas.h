@@ -6,34 +6,18 @@
  * count from 0, and give 0 for an empty vector too.
  *
  *  A matrix is row-major or column-major as its first argument says; the leading dimension is the distance
- * between rows or between columns. Bad arguments are reported to cblas_xerbla() by their place in the
- * caller's argument list, counted from 1 with the layout. Of several bad ones, the layout and the transposes
- * come first; for row-major matrices n is then looked at before m, and ldb before lda. The routine has
- * touched nothing then.
+ *  between rows or between columns. A row-major call is the column-major call on the transposes, which lie in the
+ *  same memory. A bad argument is reported to cblas_xerbla(); nothing has been touched then. Of several bad ones, the
+ *  layout and the options come first, then the others in the order of the column-major call.
  */
 #ifndef ORB_CBLAS_H
 #define ORB_CBLAS_H
 
-#include <stddef.h>
-
-#include "orb/types.h"
+#include "orb/cblas_level2.h"
+#include "orb/cblas_level3.h"
+#include "orb/cblas_types.h"
 
 ORB_BEGIN_DECLS
-
-/** How matrices lie in memory: rows one behind the other, or columns. */
-typedef enum CBLAS_LAYOUT { CblasRowMajor = 101, CblasColMajor = 102 } CBLAS_LAYOUT;
-/** op(A): A, its transpose, its conjugate transpose. */
-typedef enum CBLAS_TRANSPOSE { CblasNoTrans = 111, CblasTrans = 112, CblasConjTrans = 113 } CBLAS_TRANSPOSE;
-/** Which triangle of a matrix is read. */
-typedef enum CBLAS_UPLO { CblasUpper = 121, CblasLower = 122 } CBLAS_UPLO;
-/** Is the diagonal read, or taken as ones? */
-typedef enum CBLAS_DIAG { CblasNonUnit = 131, CblasUnit = 132 } CBLAS_DIAG;
-/** On which side the triangular or symmetric matrix stands. */
-typedef enum CBLAS_SIDE { CblasLeft = 141, CblasRight = 142 } CBLAS_SIDE;
-/** The older name of CBLAS_LAYOUT. */
-typedef CBLAS_LAYOUT CBLAS_ORDER;
-/** A place in a vector, counted from 0. */
-typedef size_t CBLAS_INDEX;
 
 /* Vectors */
 
@@ -43,6 +27,14 @@ void cblas_saxpy(int n, float alpha, const float* x, int incx, float* y, int inc
 void cblas_daxpy(int n, double alpha, const double* x, int incx, double* y, int incy);
 void cblas_caxpy(int n, const void* alpha, const void* x, int incx, void* y, int incy);
 void cblas_zaxpy(int n, const void* alpha, const void* x, int incx, void* y, int incy);
+/** @} */
+
+/** @{ */
+/** y = alpha x + beta y; a factor of 0 means that its vector is not read. */
+void cblas_saxpby(int n, float alpha, const float* x, int incx, float beta, float* y, int incy);
+void cblas_daxpby(int n, double alpha, const double* x, int incx, double beta, double* y, int incy);
+void cblas_caxpby(int n, const void* alpha, const void* x, int incx, const void* beta, void* y, int incy);
+void cblas_zaxpby(int n, const void* alpha, const void* x, int incx, const void* beta, void* y, int incy);
 /** @} */
 
 /** @{ */
@@ -145,22 +137,16 @@ void cblas_srotmg(float* d1, float* d2, float* x1, float y1, float* param);
 void cblas_drotmg(double* d1, double* d2, double* x1, double y1, double* param);
 /** @} */
 
-/* Matrix products */
-
-/** @{ */
-/** C = alpha op(A) op(B) + beta C; op(A) m by k, op(B) k by n, C m by n. See sgemm_(). */
-void cblas_sgemm(CBLAS_LAYOUT layout, CBLAS_TRANSPOSE transa, CBLAS_TRANSPOSE transb, int m, int n, int k,
-                 float alpha, const float* a, int lda, const float* b, int ldb, float beta, float* c,
-                 int ldc);
-void cblas_dgemm(CBLAS_LAYOUT layout, CBLAS_TRANSPOSE transa, CBLAS_TRANSPOSE transb, int m, int n, int k,
-                 double alpha, const double* a, int lda, const double* b, int ldb, double beta, double* c,
-                 int ldc);
-/** @} */
-
-/** Told of every bad argument: its place, the routine's name, and a printf text with what more there is to
- * say. A program may define its own; it wins over this one, which prints to the standard error stream and
- * returns. If it returns, the routine returns to its caller. */
+/** Told of every bad argument: its place in the argument list, counted from 1 with the layout, the routine's
+ *  name, and a printf text with what more there is to say. A program may define its own; it wins over this one,
+ *  which prints to the standard error stream and returns. If it returns, the routine returns to its caller.
+ *
+ *  In a row-major call a program's own handler hears the place in the column-major call on the transposes, while
+ *  RowMajorStrg is not 0, as handlers for the C BLAS have always known it; the one here prints the caller's. */
 void cblas_xerbla(int place, const char* routine, const char* form, ...);
+
+/** Not 0 while cblas_xerbla() runs for a row-major call. */
+extern int RowMajorStrg;
 
 ORB_END_DECLS
 

@@ -1,37 +1,26 @@
-// sgemm_ and dgemm_. The way of a good and small product into its kernel is as short as it can be: one test,
-// and one jump with the caller's own arguments. All else steps aside.
+// Fortran faces of the matrix products.
 #include "outer/blas/gemm.h"
 
-#include "orb/blas.h"
+#include "outer/blas/checks.h"
+#include "outer/blas/refuse.h"
 
-namespace orb {
 namespace {
-
-template <class T>
-constexpr char gemm_name[] = "SGEMM ";
-template <>
-constexpr char gemm_name<double>[] = "DGEMM ";
-
-template <class T>
-ORB_ASIDE void gemm_aside(const char* transa, const char* transb, const int* m, const int* n, const int* k,
-                          const T* alpha, const T* a, const int* lda, const T* b, const int* ldb,
-                          const T* beta, T* c, const int* ldc) {
-  if (const int place = bad_gemm_argument(transa, transb, *m, *n, *k, *lda, *ldb, *ldc))
-    return xerbla_(gemm_name<T>, &place, 6);
-  gemm(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
-}
-
+using orb::c32;
+using orb::c64;
+using orb::refuse;
 }  // namespace
-}  // namespace orb
 
-#define GEMM(name, T)                                                                                       \
+#define GEMM(name, NAME, entry, T)                                                                          \
   ORB_FACE void name(const char* transa, const char* transb, const int* m, const int* n, const int* k,      \
                      const T* alpha, const T* a, const int* lda, const T* b, const int* ldb, const T* beta, \
                      T* c, const int* ldc) {                                                                \
-    const bool straight = *k > 0 && !orb::worth_dividing<T>(*m, *n, *k) &&                                  \
-                          orb::bad_gemm_argument(transa, transb, *m, *n, *k, *lda, *ldb, *ldc) == 0;        \
-    const auto next = straight ? orb::gemm_kernel<T>() : orb::gemm_aside<T>;                                \
-    next(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);                                     \
+    if (const int place = orb::bad_gemm(transa, transb, *m, *n, *k, *lda, *ldb, *ldc))                      \
+      return refuse(NAME, place);                                                                           \
+    orb::Gemm<entry>::run(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);                    \
   }
-GEMM(sgemm_, float)
-GEMM(dgemm_, double)
+GEMM(sgemm_, "SGEMM ", orb_blas_xsgemm, float)
+GEMM(dgemm_, "DGEMM ", orb_blas_xdgemm, double)
+GEMM(cgemm_, "CGEMM ", orb_blas_xcgemm, c32)
+GEMM(zgemm_, "ZGEMM ", orb_blas_xzgemm, c64)
+GEMM(cgemm3m_, "CGEMM3M", orb_blas_xcgemm3m, c32)
+GEMM(zgemm3m_, "ZGEMM3M", orb_blas_xzgemm3m, c64)

@@ -1,65 +1,75 @@
-// The matrix product behind its Fortran and C faces: checks, and the decision to divide it among threads.
+// The matrix products with arguments known to be good, on as many threads as pay. The bits of the result do
+// not depend on their number.
 #pragma once
 
+#include "outer/blas/element.h"
+#include "outer/blas/pieces.h"
 #include "outer/kernels.h"
 
 namespace orb {
 
-ORB_INLINE bool is_transpose_letter(const char* p) {
-  return is_option(p, 'N') || is_option(p, 'T') || is_option(p, 'C');
-}
-
-// The place of the first bad argument in the Fortran order, or 0.
-ORB_INLINE int bad_gemm_argument(const char* transa, const char* transb, int m, int n, int k, int lda,
-                                 int ldb, int ldc) {
-  const auto at_least = [](int ld, int rows) { return ld >= rows && ld >= 1; };
-  if (!is_transpose_letter(transa)) return 1;
-  if (!is_transpose_letter(transb)) return 2;
-  if (m < 0) return 3;
-  if (n < 0) return 4;
-  if (k < 0) return 5;
-  if (!at_least(lda, is_option(transa, 'N') ? m : k)) return 8;
-  if (!at_least(ldb, is_option(transb, 'N') ? k : n)) return 10;
-  if (!at_least(ldc, m)) return 13;
-  return 0;
-}
-
-// The serial kernel.
+// Grains of the rows and columns of a product, where nothing but the product's own size decides its way
+// through the kernel. sgemm's small path ends at m + n + k = 150 (what is divided at all lies far above).
+inline int at_least(int size, int lacking) { return lacking > size ? (lacking + 15) & ~15 : size; }
 template <class T>
-ORB_INLINE auto gemm_kernel() {
-  if constexpr (sizeof(T) == 8)
-    return kernel<orb_blas_xdgemm>();
-  else
-    return kernel<orb_blas_xsgemm>();
+Grain product_rows(int, int) {
+  return row_grain<T>;
 }
-
-// The product on as many threads as pay. The bits of the result do not depend on their number.
-void gemm_in_pieces(const char* transa, const char* transb, const int* m, const int* n, const int* k,
-                    const float* alpha, const float* a, const int* lda, const float* b, const int* ldb,
-                    const float* beta, float* c, const int* ldc);
-void gemm_in_pieces(const char* transa, const char* transb, const int* m, const int* n, const int* k,
-                    const double* alpha, const double* a, const int* lda, const double* b, const int* ldb,
-                    const double* beta, double* c, const int* ldc);
-
-// Is the product long enough for a second thread to pay? The limits are where it did by a tenth, at about 35
-// microseconds of work; single precision does twice as much in that time.
+template <>
+inline Grain product_rows<float>(int n, int k) {
+  return {16, at_least(64, 150 - n - k)};
+}
 template <class T>
-ORB_INLINE bool worth_dividing(int m, int n, int k) {
-  constexpr int edge = sizeof(T) == 8 ? 72 : 88;
-  return double(m) * n * k >= double(edge) * edge * edge;
+Grain product_columns(int, int) {
+  return column_grain<T>;
+}
+template <>
+inline Grain product_columns<float>(int m, int k) {
+  return {4, at_least(16, 150 - m - k)};
 }
 
-// The product of arguments known to be good. The kernel's own quick returns leave one of the BLAS's: with no
-// terms and beta == 1 nothing is touched.
+template <auto* entry>
+struct Gemm;
+template <class T, void (*entry)(const char*, const char*, const int*, const int*, const int*, const T*,
+                                 const T*, const int*, const T*, const int*, const T*, T*, const int*)>
+struct Gemm<entry> {
+  // Columns first: each piece packs all of A again, but runs along full columns of it. Rows where that gives
+  // more pieces. The kernels' own quick returns leave one of the BLAS's: with no terms and beta == 1 nothing
+  // is touched.
+  ORB_ASIDE static void divided(const char* transa, const char* transb, const int* m, const int* n,
+                                const int* k, const T* alpha, const T* a, const int* lda, const T* b,
+                                const int* ldb, const T* beta, T* c, const int* ldc) {
+    if (*k == 0 && is_one(*beta)) return;
+    const Grain rows = product_rows<T>(*n, *k), columns = product_columns<T>(*m, *k);
+    const int threads = orb_get_max_threads();
+    if (columns.pieces(*n, threads) >= rows.pieces(*m, threads))
+      in_pieces(*n, columns, [=](int first, int count) {
+        call<entry>(transa, transb, m, &count, k, alpha, a, lda,
+                    b + first * (is_option(transb, 'N') ? *ldb : 1), ldb, beta, c + first * *ldc, ldc);
+      });
+    else
+      in_pieces(*m, rows, [=](int first, int count) {
+        call<entry>(transa, transb, &count, n, k, alpha, a + first * (is_option(transa, 'N') ? 1 : *lda), lda,
+                    b, ldb, beta, c + first, ldc);
+      });
+  }
+  // The way of a small product into its kernel is one jump with the caller's own arguments.
+  ORB_INLINE static void run(const char* transa, const char* transb, const int* m, const int* n, const int* k,
+                             const T* alpha, const T* a, const int* lda, const T* b, const int* ldb,
+                             const T* beta, T* c, const int* ldc) {
+    const auto next = *k > 0 && !worth_dividing<T>(*m, *n, *k) ? kernel<entry>() : divided;
+    next(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
+  }
+};
+
+// The product of elements of type T.
 template <class T>
-ORB_INLINE void gemm(const char* transa, const char* transb, const int* m, const int* n, const int* k,
-                     const T* alpha, const T* a, const int* lda, const T* b, const int* ldb, const T* beta,
-                     T* c, const int* ldc) {
-  if (*k == 0 && *beta == 1) return;
-  if (worth_dividing<T>(*m, *n, *k))
-    gemm_in_pieces(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
-  else
-    gemm_kernel<T>()(transa, transb, m, n, k, alpha, a, lda, b, ldb, beta, c, ldc);
-}
+constexpr auto gemm_entry = orb_blas_xsgemm;
+template <>
+inline constexpr auto gemm_entry<double> = orb_blas_xdgemm;
+template <>
+inline constexpr auto gemm_entry<c32> = orb_blas_xcgemm;
+template <>
+inline constexpr auto gemm_entry<c64> = orb_blas_xzgemm;
 
 }  // namespace orb

@@ -4,6 +4,7 @@
 // for routines on one vector the BLAS wants a stride below 1 to mean an empty vector.
 #include "orb/blas.h"
 #include "orb/services.h"
+#include "outer/blas/axpby.h"
 #include "outer/blas/complex_result.h"
 #include "outer/kernels.h"
 
@@ -31,6 +32,17 @@ AXPY(orb_blas_saxpy, orb_blas_xsaxpy, float)
 AXPY(orb_blas_daxpy, orb_blas_xdaxpy, double)
 AXPY(orb_blas_caxpy, orb_blas_xcaxpy, c32)
 AXPY(orb_blas_zaxpy, orb_blas_xzaxpy, c64)
+
+#define AXPBY(p, T)                                                                                          \
+  ORB_EXPORT void p##axpby_(const int* n, const T* alpha, const T* x, const int* incx, const T* beta, T* y,  \
+                            const int* incy) {                                                               \
+    orb::axpby<orb_blas_x##p##copy, orb_blas_##p##scal, orb_blas_x##p##axpy>(*n, *alpha, x, *incx, *beta, y, \
+                                                                             *incy);                         \
+  }
+AXPBY(s, float)
+AXPBY(d, double)
+AXPBY(c, c32)
+AXPBY(z, c64)
 
 #define DOT(name, kernel, R, T)                                                             \
   ORB_FACE R name(const int* n, const T* x, const int* incx, const T* y, const int* incy) { \

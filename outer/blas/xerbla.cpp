@@ -17,4 +17,10 @@ ORB_EXPORT __attribute__((weak)) void xerbla_(const char* name, const int* place
   fprintf(stderr, "%s\n", orb_serv_orb_get_msg(orb::illegal_argument, 2, text, *place));
 }
 
+ORB_EXPORT void xerbla_array_(const char* name, const int* length, const int* place) {
+  char text[32];
+  for (int i = 0; i < 32; ++i) text[i] = i < *length ? name[i] : ' ';
+  xerbla_(text, place, sizeof text);
+}
+
 ORB_EXPORT int lsame_(const char* a, const char* b, size_t, size_t) { return orb_serv_lsame(a, b, 1, 1); }

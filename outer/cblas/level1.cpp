@@ -1,7 +1,7 @@
 // Level-1 vectors: the C names. V is the pointed-to type that the caller sees, T that of the kernel.
 #include "orb/cblas.h"
-#include "outer/kernels.h"
-#include "serv/kernel/complex.h"
+#include "outer/blas/axpby.h"
+#include "outer/cblas/arguments.h"
 
 namespace {
 
@@ -9,14 +9,8 @@ using orb::c32;
 using orb::c64;
 using orb::call;
 
-template <class T>
-ORB_INLINE T* as(void* p) {
-  return static_cast<T*>(p);
-}
-template <class T>
-ORB_INLINE const T* as(const void* p) {
-  return static_cast<const T*>(p);
-}
+using orb::as;
+using orb::value;
 
 // The count of a routine on one vector, for which a stride below 1 means an empty vector.
 ORB_INLINE int count_if_forward(int n, int incx) { return incx > 0 ? n : 0; }
@@ -36,6 +30,16 @@ AXPY(cblas_daxpy, orb_blas_xdaxpy, double)
   }
 COMPLEX_AXPY(cblas_caxpy, orb_blas_xcaxpy, c32)
 COMPLEX_AXPY(cblas_zaxpy, orb_blas_xzaxpy, c64)
+
+#define AXPBY(p, S, V, T)                                                                          \
+  ORB_EXPORT void cblas_##p##axpby(int n, S alpha, const V* x, int incx, S beta, V* y, int incy) { \
+    orb::axpby<orb_blas_x##p##copy, orb_blas_##p##scal, orb_blas_x##p##axpy>(                      \
+        n, value<T>(alpha), as<T>(x), incx, value<T>(beta), as<T>(y), incy);                       \
+  }
+AXPBY(s, float, float, float)
+AXPBY(d, double, double, double)
+AXPBY(c, const void*, void, c32)
+AXPBY(z, const void*, void, c64)
 
 #define DOT(name, kernel, R, T)                                          \
   ORB_EXPORT R name(int n, const T* x, int incx, const T* y, int incy) { \

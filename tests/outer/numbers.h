@@ -5,17 +5,14 @@
 #include <type_traits>
 #include <vector>
 
-#include "orb/types.h"
 #include "tests/support/call.h"
+#include "tests/support/element.h"
 
 namespace orb::test {
 
 // Element types to and from the wider numbers that the models compute with. Data are small integers, so that
 // every order of operations gives the same bits.
 using Wide = std::complex<double>;
-
-template <class T>
-constexpr bool is_complex = std::is_class_v<T>;
 
 template <class T>
 T number(Wide z) {
