@@ -7,6 +7,11 @@ set(ORB_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/orb)
 
 install(TARGETS orb EXPORT orb-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(TARGETS orb_t7 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+# The names under which programs ask for a BLAS: this library carries them all.
+foreach(name libblas.so.3 libblas.so libcblas.so.3 libcblas.so)
+  install(CODE "file(CREATE_LINK $<TARGET_FILE_NAME:orb>
+    \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/${name}\" SYMBOLIC)")
+endforeach()
 install(DIRECTORY include/orb DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
