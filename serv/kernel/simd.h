@@ -5,6 +5,11 @@
 //   low             one element into the first lane, zero elsewhere
 //   gather          elements `step` apart, first element into the first lane; scatter puts them back
 //   pair            two values in the first lanes, zero elsewhere; load_pair, store_pair: at any address
+//   gather          elements `step` apart, first element into the first lane
+//   pair            two values in the first lanes, zero elsewhere; load_pair, store_pair: at any address;
+//                   pair_at: one value each from two addresses
+//   reversed        the lanes in the opposite order
+//   flip_odd        the sign of each lane of odd number changed; flip_even: of each of even number
 //   add_low         a scalar added to the first lane, the others as they were
 //   widen           singles from any address as doubles
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
@@ -41,6 +46,12 @@ struct f64x2 {
   static ORB_INLINE f64x2 pair(double a, double b) { return {_mm_setr_pd(a, b)}; }
   static ORB_INLINE f64x2 load_pair(const double* p) { return loadu(p); }
   ORB_INLINE void store_pair(double* p) const { storeu(p); }
+  static ORB_INLINE f64x2 pair_at(const double* p, const double* q) {
+    return {_mm_loadh_pd(_mm_load_sd(p), q)};
+  }
+  ORB_INLINE f64x2 reversed() const { return swap_halves(); }
+  ORB_INLINE f64x2 flip_odd() const { return {_mm_xor_pd(v, _mm_setr_pd(0.0, -0.0))}; }
+  ORB_INLINE f64x2 flip_even() const { return {_mm_xor_pd(v, _mm_setr_pd(-0.0, 0.0))}; }
   static ORB_INLINE f64x2 widen(const float* p) {
     return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
   }
@@ -112,6 +123,12 @@ struct f32x4 {
   static ORB_INLINE f32x4 load_pairs(const float* p, const float* q) {
     return {_mm_loadh_pi(load_pair(p).v, reinterpret_cast<const __m64*>(q))};
   }
+  static ORB_INLINE f32x4 pair_at(const float* p, const float* q) {
+    return {_mm_unpacklo_ps(_mm_load_ss(p), _mm_load_ss(q))};
+  }
+  ORB_INLINE f32x4 reversed() const { return {_mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 1, 2, 3))}; }
+  ORB_INLINE f32x4 flip_odd() const { return {_mm_xor_ps(v, _mm_setr_ps(0.0f, -0.0f, 0.0f, -0.0f))}; }
+  ORB_INLINE f32x4 flip_even() const { return {_mm_xor_ps(v, _mm_setr_ps(-0.0f, 0.0f, -0.0f, 0.0f))}; }
   static ORB_INLINE f32x4 load_first(const float* p, int n) {
     if (n == 4) return loadu(p);
     if (n == 1) return splat(*p);
@@ -163,6 +180,9 @@ struct f32x4 {
   static ORB_INLINE f32x4 odd(f32x4 a, f32x4 b) {
     return {_mm_shuffle_ps(a.v, b.v, _MM_SHUFFLE(3, 1, 3, 1))};
   }
+  // (a0, a1, b0, b1) and (a2, a3, b2, b3)
+  static ORB_INLINE f32x4 low_pairs(f32x4 a, f32x4 b) { return {_mm_movelh_ps(a.v, b.v)}; }
+  static ORB_INLINE f32x4 high_pairs(f32x4 a, f32x4 b) { return {_mm_movehl_ps(b.v, a.v)}; }
   // (a0 - b0, a1 + b1, a2 - b2, a3 + b3)
   static ORB_INLINE f32x4 addsub(f32x4 a, f32x4 b) { return {_mm_addsub_ps(a.v, b.v)}; }
   ORB_INLINE f32x4 abs() const {
