@@ -20,6 +20,12 @@ const char* const families[] = {
     "blas-level3",        //
     "blas-trmm",          //
     "blas-trsm",          //
+    "signal-fft",
+    "signal-fft.optional",
+    "signal-power-of-two",
+    "signal-power-of-two.optional",
+    "signal-real",
+    "signal-real.optional",
 };
 
 std::vector<std::string> lines_of(const std::string& list) {
