@@ -248,6 +248,7 @@ struct Lane {
     return *this;
   }
   ORB_INLINE T sum() const { return v; }
+  ORB_INLINE Lane reversed() const { return *this; }
   ORB_INLINE Lane abs() const { return {std::abs(v)}; }
 
   friend ORB_INLINE Lane operator+(Lane a, Lane b) { return {a.v + b.v}; }

@@ -20,6 +20,8 @@ const char* const families[] = {
     "blas-level3",        //
     "blas-trmm",          //
     "blas-trsm",          //
+    "signal-any-length",
+    "signal-any-length.optional",
     "signal-fft",
     "signal-fft.optional",
     "signal-power-of-two",

@@ -6,24 +6,25 @@
 //   (Re z[h-k] + p, q - Im z[h-k]) and (Re z[k] - p, q - Im z[k]),  p = b D + a S,  q = b S - a D.
 // On the way back, with A = cos, B = -sin, E = z[k] + conj z[h-k]:
 //   (Re E + p, q + Im E) and (Re E - p, q - Im E),  p = B D - A S,  q = A D + B S.
-// Tables hold k = 1 to n/4: for n above 8 in groups of two k, both first values and then both second ones,
-// else the two values of each k. At k = h/2 both numbers are one, and both formulas give it.
+// Tables hold k = 1 to h/2: as far as fours of k go, in groups of two k, both first values and then both
+// second ones; then the two values of each k. At k = h/2 both numbers are one, and both formulas give it.
 #pragma once
 
 #include "signal/kernel/fft/sines.h"
 
 namespace orb::signal {
 
-constexpr bool recombines_in_groups(int half) { return half > 4; }
+constexpr int recombined_in_groups(int half) { return half / 2 & ~3; }  // of the half/2 values of k
 
 // value(k) is the pair for k.
 template <class T, class Value>
-constexpr T* write_recombination(T* table, int n, Value value) {
-  for (int k = 1; k <= n / 4; ++k, table += 2) {
+constexpr T* write_recombination(T* table, int half, Value value) {
+  for (int k = 1; k <= half / 2; ++k, table += 2) {
     const auto [first, second] = value(k);
-    T* const at = recombines_in_groups(n / 2) && k % 2 == 0 ? table - 1 : table;
+    const bool grouped = k <= recombined_in_groups(half);
+    T* const at = grouped && k % 2 == 0 ? table - 1 : table;
     at[0] = first;
-    at[recombines_in_groups(n / 2) ? 2 : 1] = second;
+    at[grouped ? 2 : 1] = second;
   }
   return table;
 }
@@ -33,13 +34,13 @@ struct Pair {
 };
 template <class T>
 constexpr T* write_recombine_table(T* table, int order, Sines<T> sines) {
-  return write_recombination(table, 1 << order, [=](int k) {
+  return write_recombination(table, 1 << order >> 1, [=](int k) {
     return Pair<T>{sines.re(unsigned(k), order) / 2, T(0.5) + sines.im(unsigned(k), order) / 2};
   });
 }
 template <class T>
 constexpr T* write_separate_table(T* table, int order, Sines<T> sines) {
-  return write_recombination(table, 1 << order, [=](int k) {
+  return write_recombination(table, 1 << order >> 1, [=](int k) {
     return Pair<T>{sines.re(unsigned(k), order), sines.im(unsigned(k), order)};
   });
 }
@@ -80,14 +81,13 @@ ORB_INLINE void combine_partners(const T* in, T* out, int half, const T* table, 
   const Interleaved<T> to{out};
   const auto mirrored = [](Split<V> a) ORB_INLINE_BODY { return Split<V>{a.re.reversed(), a.im.reversed()}; };
   int k = 1;
-  if (half >= 2 * V::lanes && recombines_in_groups(half))
-    for (; k <= half / 2; k += V::lanes, table += 2 * V::lanes) {
-      const int mirror = half - k - V::lanes + 1;
-      const auto w = recombination_values(table);
-      const Partners<V> r = combine(from.load(k), mirrored(from.load(mirror)), w.re, w.im);
-      to.store(k, r.k);
-      to.store(mirror, mirrored(r.mirror));
-    }
+  for (; k <= recombined_in_groups(half); k += V::lanes, table += 2 * V::lanes) {
+    const int mirror = half - k - V::lanes + 1;
+    const auto w = recombination_values(table);
+    const Partners<V> r = combine(from.load(k), mirrored(from.load(mirror)), w.re, w.im);
+    to.store(k, r.k);
+    to.store(mirror, mirrored(r.mirror));
+  }
   using One = Lane<T>;
   const auto one = [=](int x) { return Split<One>{{in[2 * x]}, {in[2 * x + 1]}}; };
   for (; k <= half / 2; ++k, table += 2) {
