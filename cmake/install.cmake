@@ -13,6 +13,7 @@ foreach(name libblas.so.3 libblas.so libcblas.so.3 libcblas.so)
     \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/${name}\" SYMBOLIC)")
 endforeach()
 install(DIRECTORY include/orb DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY include/orb DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h" PATTERN "*.def")
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 install(EXPORT orb-targets NAMESPACE orb:: DESTINATION ${ORB_CMAKE_DIR} FILE orb-config.cmake)

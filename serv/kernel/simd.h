@@ -10,6 +10,7 @@
 //                   pair_at: one value each from two addresses
 //   reversed        the lanes in the opposite order
 //   flip_odd        the sign of each lane of odd number changed; flip_even: of each of even number
+//   quad            four values
 //   add_low         a scalar added to the first lane, the others as they were
 //   widen           singles from any address as doubles
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
@@ -118,6 +119,7 @@ struct f32x4 {
   static ORB_INLINE f32x4 load_pair(const float* p) {
     return {_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
   }
+  static ORB_INLINE f32x4 quad(float a, float b, float c, float d) { return {_mm_setr_ps(a, b, c, d)}; }
   ORB_INLINE void store_pair(float* p) const { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
   // two pairs, from p and from q
   static ORB_INLINE f32x4 load_pairs(const float* p, const float* q) {

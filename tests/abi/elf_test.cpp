@@ -28,6 +28,7 @@ const char* const families[] = {
     "signal-power-of-two.optional",
     "signal-real",
     "signal-real.optional",
+    "sparse-csr",         //
 };
 
 std::vector<std::string> lines_of(const std::string& list) {

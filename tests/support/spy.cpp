@@ -158,6 +158,7 @@ extern "C" {
 
 void* orb_serv_allocate(int bytes, int alignment) {
   spy().scratch.push_back({bytes, alignment});
+  if (spy().refuse_scratch_at > 0 && --spy().refuse_scratch_at == 0) return nullptr;
   return orb::test::take(bytes, alignment);
 }
 void orb_serv_deallocate(void* block) { orb::test::give_back(block); }

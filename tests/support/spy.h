@@ -21,6 +21,7 @@ struct Spy {
 
   int l2cache = 0, cpu = 0;  // the answers to the queries
   int refuse_at = 0;         // the k-th request for long-lived memory from now on fails; 0: none does
+  int refuse_scratch_at = 0;  // the same for scratch memory
 
   void reset();  // as at the start; blocks still held are forgotten
   int live_blocks() const;

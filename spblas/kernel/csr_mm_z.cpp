@@ -1,0 +1,4 @@
+// Compressed rows times a dense matrix, type z.
+#include "spblas/kernel/csr_mm.h"
+
+#include "orb/sparse_kernels/csr_mm_z.def"
