@@ -8,6 +8,7 @@
 #include "orb/blas_level2.h"
 #include "orb/blas_level3.h"
 #include "orb/blas_triangular.h"
+#include "orb/sparse_kernels.h"
 #include "outer/boundary.h"
 
 namespace orb {

@@ -7,7 +7,7 @@
 namespace orb::spblas {
 
 template <bool conjugated, class T, class B, class C>
-ORB_INLINE void mm_general(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
+void mm_general(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
   const auto factor = C::Register::splat(alpha);
   for (int i = rows.first; i < rows.end; ++i) c.put(i, factor * panel_dot<conjugated>(a.row(i), b) + c.at(i));
 }
@@ -15,7 +15,7 @@ ORB_INLINE void mm_general(const Csr<T>& a, Range rows, T alpha, const B& b, con
 // All that is stored, whatever belongs there: each group of four joins the element of C as
 // (((p3 + p2) + p1) + p0) * alpha, what is left of the row as p * alpha.
 template <bool conjugated, class T, class B, class C>
-ORB_INLINE void mm_whole_rows(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
+void mm_whole_rows(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
   const auto factor = C::Register::splat(alpha);
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
@@ -38,7 +38,7 @@ ORB_INLINE void mm_whole_rows(const Csr<T>& a, Range rows, T alpha, const B& b, 
 
 // The second sweep of the kinds that store a triangle: what does not belong to it is summed and taken off.
 template <bool conjugated, Side side, bool unit, class T, class B, class C>
-ORB_INLINE void mm_correct_triangle(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
+void mm_correct_triangle(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
     auto strange = C::Value::zero();
@@ -54,7 +54,7 @@ ORB_INLINE void mm_correct_triangle(const Csr<T>& a, Range rows, T alpha, const 
 // The same with the mirror images. The diagonal: ones (unit), or as the first sweep left it, or zero for a
 // mirror that negates.
 template <Mirror mirror, Side side, bool unit, class T, class B, class C>
-ORB_INLINE void mm_mirror(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
+void mm_mirror(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
     const auto t = C::Register::splat(alpha) * b.at(i);
@@ -74,7 +74,7 @@ ORB_INLINE void mm_mirror(const Csr<T>& a, Range rows, T alpha, const B& b, cons
 }
 
 template <bool conjugated, class T, class B, class C>
-ORB_INLINE void mm_general_transposed(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
+void mm_general_transposed(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
     const auto t = C::Register::splat(alpha) * b.at(i);
@@ -84,7 +84,7 @@ ORB_INLINE void mm_general_transposed(const Csr<T>& a, Range rows, T alpha, cons
 }
 
 template <bool conjugated, Side side, bool unit, class T, class B, class C>
-ORB_INLINE void mm_triangle_transposed(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
+void mm_triangle_transposed(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
     const auto bi = b.at(i);
@@ -101,7 +101,7 @@ ORB_INLINE void mm_triangle_transposed(const Csr<T>& a, Range rows, T alpha, con
 }
 
 template <bool conjugated, class T, class B, class C>
-ORB_INLINE void mm_diagonal(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
+void mm_diagonal(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
     for (int k = 0; k < row.count; ++k)

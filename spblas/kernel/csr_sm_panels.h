@@ -7,7 +7,7 @@
 namespace orb::spblas {
 
 template <bool conjugated, bool unit, class T, class C>
-ORB_INLINE void sm_backward(const Csr<T>& a, Range rows, const C& c) {
+void sm_backward(const Csr<T>& a, Range rows, const C& c) {
   for_rows<false>(rows, [&](int i) ORB_INLINE_BODY {
     const Split<T> row = split_upper<unit>(a.row(i), i);
     auto value = c.at(i) - panel_dot<conjugated>(row.inner, c);
@@ -20,7 +20,7 @@ ORB_INLINE void sm_backward(const Csr<T>& a, Range rows, const C& c) {
 }
 
 template <bool conjugated, bool unit, Side side, class T, class C>
-ORB_INLINE void sm_transposed(const Csr<T>& a, Range rows, const C& c) {
+void sm_transposed(const Csr<T>& a, Range rows, const C& c) {
   constexpr bool lower = side == Side::lower;
   for_rows<!lower>(rows, [&](int i) ORB_INLINE_BODY {
     const Split<T> row = lower ? split_lower<unit>(a.row(i), i) : split_upper<unit>(a.row(i), i);
