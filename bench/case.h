@@ -49,5 +49,6 @@ void add_level1(std::vector<Case>&);
 void add_gemm(std::vector<Case>&);
 void add_level2(std::vector<Case>&);
 void add_level3(std::vector<Case>&);
+void add_sparse(std::vector<Case>&);
 
 }  // namespace orb::bench

@@ -10,7 +10,7 @@ namespace {
 
 struct Known {
   const char* name;
-  const char* serial;    // file under one of the library folders
+  const char* serial;    // file under one of the library folders, or its whole path
   const char* threaded;  // the same for more than one thread, or null if there is none
   double most_work;
 };
@@ -20,6 +20,8 @@ constexpr Known known_peers[] = {
     {"openblas", "openblas-serial/libopenblas.so.0", "openblas-pthread/libopenblas.so.0", 1e300},
     {"blis", "blis-serial/libblis.so.4", "blis-pthread/libblis.so.4", 1e300},
     {"reference", "blas/libblas.so.3", nullptr, 1e8},
+    {"plain loop", ORB_BENCH_PEERS "/libplain_sparse.so", nullptr, 1e300},
+    {"eigen", ORB_BENCH_PEERS "/libeigen_sparse.so", nullptr, 1e300},
 };
 constexpr const char* folders[] = {"/usr/lib/i386-linux-gnu", "/usr/lib32", "/usr/lib"};
 
