@@ -11,6 +11,8 @@
 //   reversed        the lanes in the opposite order
 //   flip_odd        the sign of each lane of odd number changed; flip_even: of each of even number
 //   quad            four values
+//   low_pair, high_pair   the first or the last two lanes in the first two, zero elsewhere; pairs: two pairs
+//                   from any addresses
 //   add_low         a scalar added to the first lane, the others as they were
 //   widen           singles from any address as doubles
 //   sum             the lanes added: (l0 + l1), or (l0 + l2) + (l1 + l3)
@@ -120,6 +122,11 @@ struct f32x4 {
     return {_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)))};
   }
   static ORB_INLINE f32x4 quad(float a, float b, float c, float d) { return {_mm_setr_ps(a, b, c, d)}; }
+  static ORB_INLINE f32x4 pairs(const float* p, const float* q) {
+    return {_mm_movelh_ps(load_pair(p).v, load_pair(q).v)};
+  }
+  ORB_INLINE f32x4 low_pair() const { return {_mm_movelh_ps(v, _mm_setzero_ps())}; }
+  ORB_INLINE f32x4 high_pair() const { return {_mm_movehl_ps(_mm_setzero_ps(), v)}; }
   ORB_INLINE void store_pair(float* p) const { _mm_storel_pi(reinterpret_cast<__m64*>(p), v); }
   // two pairs, from p and from q
   static ORB_INLINE f32x4 load_pairs(const float* p, const float* q) {

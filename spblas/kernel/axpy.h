@@ -6,19 +6,19 @@
 
 namespace orb::spblas {
 
-constexpr int one = 1;
+constexpr int unit_stride = 1;
 
 inline void axpy(const int* n, const float* alpha, const float* x, float* y) {
-  orb_blas_saxpy(n, alpha, x, &one, y, &one);
+  orb_blas_saxpy(n, alpha, x, &unit_stride, y, &unit_stride);
 }
 inline void axpy(const int* n, const double* alpha, const double* x, double* y) {
-  orb_blas_daxpy(n, alpha, x, &one, y, &one);
+  orb_blas_daxpy(n, alpha, x, &unit_stride, y, &unit_stride);
 }
 inline void axpy(const int* n, const c32* alpha, const c32* x, c32* y) {
-  orb_blas_caxpy(n, alpha, x, &one, y, &one);
+  orb_blas_caxpy(n, alpha, x, &unit_stride, y, &unit_stride);
 }
 inline void axpy(const int* n, const c64* alpha, const c64* x, c64* y) {
-  orb_blas_zaxpy(n, alpha, x, &one, y, &one);
+  orb_blas_zaxpy(n, alpha, x, &unit_stride, y, &unit_stride);
 }
 
 }  // namespace orb::spblas

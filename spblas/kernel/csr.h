@@ -15,14 +15,14 @@ struct Range {
   int first, end;
 };
 
-// The entries of one row, or some of them.
+// The entries `begin` to before `end`: of one row, or some of them.
 template <class T>
 struct Row {
-  const T* value;
-  const int* column;
-  int count;
+  const T* values;
+  const int* columns;
+  int begin, end;
 
-  ORB_INLINE Row from(int k) const { return {value + k, column + k, count - k}; }
+  ORB_INLINE int count() const { return end - begin; }
 };
 
 template <class T>
@@ -33,7 +33,7 @@ struct Csr {
 
   ORB_INLINE int begin(int i) const { return row_begin[i] - origin; }
   ORB_INLINE int end(int i) const { return row_end[i] - origin; }
-  ORB_INLINE Row<T> row(int i) const { return {values + begin(i), columns + begin(i), end(i) - begin(i)}; }
+  ORB_INLINE Row<T> row(int i) const { return {values, columns, begin(i), end(i)}; }
 };
 
 // What a kernel of this shape was given. With no rows nothing of it is read.
@@ -74,23 +74,41 @@ ORB_INLINE T conjugate_if(T value) {
     return value;
 }
 
-// target += value * x for single elements.
-template <bool conjugated, class T>
-ORB_INLINE void add_product(T* target, T value, const T* x) {
-  using One = one_of<T>;
-  (One::loadu(target) + factor<One, conjugated>(value) * One::loadu(x)).storeu(target);
+// One number in a register. A complex number is made there, not stored by halves and loaded whole, for which
+// the processor would wait.
+template <Real T>
+ORB_INLINE Lane<T> one(T value) {
+  return {value};
 }
-template <bool conjugated, class T>
-ORB_INLINE void subtract_product(T* target, T value, const T* x) {
-  using One = one_of<T>;
-  (One::loadu(target) - factor<One, conjugated>(value) * One::loadu(x)).storeu(target);
+template <Complex C>
+ORB_INLINE ComplexLane<C> one(C value) {
+  return {ComplexLane<C>::Register::pair(value.re, value.im)};
 }
-
 template <class T>
 ORB_INLINE T element(one_of<T> v) {
   T value;
   v.storeu(&value);
   return value;
+}
+
+// value * x for single elements.
+template <bool conjugated, class T>
+ORB_INLINE one_of<T> product(T value, one_of<T> x) {
+  return factor<one_of<T>, conjugated>(value) * x;
+}
+// (value * alpha) * x
+template <bool conjugated, class T>
+ORB_INLINE one_of<T> product(T value, T alpha, one_of<T> x) {
+  return one_of<T>::splat(conjugate_if<conjugated>(value) * alpha) * x;
+}
+
+template <class T>
+ORB_INLINE void add_to(T* target, one_of<T> x) {
+  (one_of<T>::loadu(target) + x).storeu(target);
+}
+template <class T>
+ORB_INLINE void subtract_from(T* target, one_of<T> x) {
+  (one_of<T>::loadu(target) - x).storeu(target);
 }
 
 }  // namespace orb::spblas

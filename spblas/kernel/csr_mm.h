@@ -3,7 +3,7 @@
 
 #include "orb/sparse_kernels.h"
 #include "spblas/kernel/axpy.h"
-#include "spblas/kernel/csr_mm_sweeps.h"
+#include "spblas/kernel/csr_mm_rows.h"
 #include "spblas/kernel/row_blocks.h"
 
 namespace orb::spblas {
@@ -14,32 +14,48 @@ struct Dense {
   int ld;
 };
 
-// A panel's share of the work.
-template <Shape s, class T, class B, class C>
-ORB_INLINE void mm_panel(const Csr<T>& a, Range rows, T alpha, const B& b, const C& c) {
-  if constexpr (s.kind == 'd') {
-    mm_diagonal<s.conjugates()>(a, rows, alpha, b, c);
-  } else if constexpr (s.kind == 'g' && s.transposes()) {
-    mm_general_transposed<s.conjugates()>(a, rows, alpha, b, c);
-  } else if constexpr (s.kind == 'g') {
-    mm_general<s.conjugates()>(a, rows, alpha, b, c);
-  } else if constexpr (s.kind == 't' && s.transposes()) {
-    mm_triangle_transposed<s.conjugates(), s.side(), s.unit()>(a, rows, alpha, b, c);
-  } else {
-    mm_whole_rows<s.conjugates_entry()>(a, rows, alpha, b, c);
-    if constexpr (s.kind == 't')
-      mm_correct_triangle<s.conjugates(), s.side(), s.unit()>(a, rows, alpha, b, c);
-    else
-      mm_mirror<mirror_of<s>, s.side(), s.unit()>(a, rows, alpha, b, c);
-  }
+// One step of the work on all of a range of rows and of columns. By rows, a row of the matrix meets all dense
+// columns before the next, and lines of B and C are used whole; by columns, a panel of columns stays while
+// the matrix passes.
+template <class Step, bool by_rows, class T>
+void sweep(const Csr<T>& a, Range rows, int first, int last, T alpha, Dense<const T> b, Dense<T> c) {
+  constexpr int registers = Step::template registers<T, by_rows>;
+  const auto panels = [&](auto body) ORB_INLINE_BODY {
+    for_panels<T, by_rows, registers>(first, last, [&](auto panel, int j) ORB_INLINE_BODY {
+      body(panel(b.p, b.ld, j), panel(c.p, c.ld, j));
+    });
+  };
+  if constexpr (by_rows)
+    for (int i = rows.first; i < rows.end; ++i)
+      panels([&](const auto& bp, const auto& cp) ORB_INLINE_BODY { Step::row(a.row(i), i, alpha, bp, cp); });
+  else
+    panels([&](const auto& bp, const auto& cp) ORB_INLINE_BODY {
+      for (int i = rows.first; i < rows.end; ++i) Step::row(a.row(i), i, alpha, bp, cp);
+    });
 }
 
-template <Shape s, class T>
-ORB_INLINE void mm_columns(const Csr<T>& a, Range rows, int first, int last, T alpha, Dense<const T> b,
-                           Dense<T> c) {
-  for_panels<s>(first, last, [&](auto panel, int j) ORB_INLINE_BODY {
-    mm_panel<s>(a, rows, alpha, panel(b.p, b.ld, j), panel(c.p, c.ld, j));
-  });
+// The steps that make up the kernels, in order.
+template <class... Steps>
+struct Work {};
+template <Shape s>
+consteval auto work_of() {
+  constexpr bool conjugates = s.conjugates(), unit = s.unit();
+  if constexpr (s.kind == 'd')
+    return Work<DiagonalEntries<conjugates>>{};
+  else if constexpr (s.kind == 'g' && s.transposes())
+    return Work<GeneralTransposed<conjugates>>{};
+  else if constexpr (s.kind == 'g')
+    return Work<General<conjugates>>{};
+  else if constexpr (s.kind == 't' && s.transposes())
+    return Work<TriangleTransposed<conjugates, s.side(), unit>>{};
+  else if constexpr (s.kind == 't')
+    return Work<WholeRow<conjugates>, Correction<conjugates, s.side(), unit>>{};
+  else
+    return Work<WholeRow<s.conjugates_entry()>, MirrorImages<mirror_of<s>, s.side(), unit>>{};
+}
+template <bool by_rows, class... Steps, class... A>
+ORB_INLINE void run(Work<Steps...>, const A&... arguments) {
+  (sweep<Steps, by_rows>(arguments...), ...);
 }
 
 template <Shape s, class T = element_of<s>>
@@ -54,7 +70,7 @@ ORB_INLINE void csr_mm_par(int first, int last, int m, int k, T alpha, const T* 
   Range block{all.first, all.first};
   for (int left = m < step ? 1 : m / step; left > 0; --left) {
     block = {block.end, left > 1 ? block.end + step : all.end};
-    mm_columns<s>(a, block, first, last, alpha, b, c);
+    run<s.by_rows()>(work_of<s>(), a, block, first, last, alpha, b, c);
   }
 }
 
@@ -71,7 +87,8 @@ ORB_INLINE void csr_mm_seq(int m, int n, const T* alpha, const T* values, const 
   if constexpr (s.unit())
     s.by_rows() ? mm_identity(m, n, alpha, b, c) : mm_identity(n, m, alpha, b, c);
   else
-    mm_columns<s>(csr<s>(values, columns, row_begin, row_end), rows<s>(1, m), 1, n, *alpha, b, c);
+    run<s.by_rows()>(work_of<s>(), csr<s>(values, columns, row_begin, row_end), rows<s>(1, m), 1, n, *alpha,
+                     b, c);
 }
 
 }  // namespace orb::spblas

@@ -14,8 +14,9 @@ template <bool conjugated, class T>
 void mv_diagonal(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
-    for (int k = 0; k < row.count; ++k)
-      if (row.column[k] == i) y[i] += conjugate_if<conjugated>(row.value[k]) * alpha * x[i];
+    for (int k = row.begin; k < row.end; ++k)
+      if (row.columns[k] == i)
+        add_to(y + i, product<conjugated>(row.values[k], alpha, one_of<T>::loadu(x + i)));
   }
 }
 

@@ -7,34 +7,37 @@ namespace orb::spblas {
 
 template <bool conjugated, class T>
 void mv_general(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
-  for (int i = rows.first; i < rows.end; ++i) y[i] = row_dot<conjugated>(a.row(i), x) * alpha + y[i];
+  const auto factor = one_of<T>::splat(alpha);
+  for (int i = rows.first; i < rows.end; ++i) add_to(y + i, factor * row_dot<conjugated>(a.row(i), x));
 }
 
 // The whole row first, in a loop without a test; what lies in the other triangle leaves the sum afterwards.
 template <bool conjugated, Side side, class T>
 void mv_triangle(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
+  using One = one_of<T>;
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
-    T sum = row_dot<conjugated>(row, x);
-    for (int k = 0; k < row.count; ++k)
-      if (outside<side>(row.column[k], i))
-        subtract_product<conjugated>(&sum, row.value[k], x + row.column[k]);
-    y[i] = sum * alpha + y[i];
+    One sum = row_dot<conjugated>(row, x);
+    for (int k = row.begin; k < row.end; ++k)
+      if (outside<side>(row.columns[k], i))
+        sum = sum - product<conjugated>(row.values[k], One::loadu(x + row.columns[k]));
+    add_to(y + i, One::splat(alpha) * sum);
   }
 }
 
 template <bool conjugated, Side side, class T>
 void mv_unit_triangle(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
+  using One = one_of<T>;
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
-    T sum{}, strange{};  // of all entries, and of those that do not count
-    for (int k = 0; k < row.count; ++k) {
-      const T* xk = x + row.column[k];
-      add_product<conjugated>(&sum, row.value[k], xk);
-      if (!inside<side>(row.column[k], i)) add_product<conjugated>(&strange, row.value[k], xk);
+    One sum = One::zero(), strange = One::zero();  // of all entries, and of those that do not count
+    for (int k = row.begin; k < row.end; ++k) {
+      const One term = product<conjugated>(row.values[k], One::loadu(x + row.columns[k]));
+      sum += term;
+      if (!inside<side>(row.columns[k], i)) strange += term;
     }
-    strange -= x[i];
-    y[i] = (sum - strange) * alpha + y[i];
+    strange = strange - One::loadu(x + i);
+    add_to(y + i, One::splat(alpha) * (sum - strange));
   }
 }
 

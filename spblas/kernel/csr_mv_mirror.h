@@ -14,27 +14,30 @@ constexpr Mirror mirror_of{s.conjugates_entry(), s.conjugates_mirror(), s.kind =
 
 // target += image * t, or -= where the image has the other sign.
 template <Mirror mirror, class T>
-ORB_INLINE void add_image(T* target, T value, const T* t) {
+ORB_INLINE void add_image(T* target, T value, one_of<T> t) {
+  const auto image = product<mirror.conjugates_image>(value, t);
   if constexpr (mirror.negates)
-    subtract_product<mirror.conjugates_image>(target, value, t);
+    subtract_from(target, image);
   else
-    add_product<mirror.conjugates_image>(target, value, t);
+    add_to(target, image);
 }
 
 // With a stored diagonal: one pass, one running sum.
 template <Mirror mirror, Side side, class T>
 void mv_mirror(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
+  using One = one_of<T>;
+  const auto factor = One::splat(alpha);
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
-    const T t = alpha * x[i];
-    T sum{};
-    for (int k = 0; k < row.count; ++k) {
-      const int column = row.column[k];
+    const One t = factor * One::loadu(x + i);
+    One sum = One::zero();
+    for (int k = row.begin; k < row.end; ++k) {
+      const int column = row.columns[k];
       if (outside<side>(column, i)) continue;
-      add_product<mirror.conjugates_entry>(&sum, row.value[k], x + column);
-      if (column != i) add_image<mirror>(y + column, row.value[k], &t);
+      sum += product<mirror.conjugates_entry>(row.values[k], One::loadu(x + column));
+      if (column != i) add_image<mirror>(y + column, row.values[k], t);
     }
-    y[i] = sum * alpha + y[i];
+    add_to(y + i, factor * sum);
   }
 }
 
@@ -42,19 +45,22 @@ void mv_mirror(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
 // belong to the triangle is taken off.
 template <Mirror mirror, Side side, bool unit, class T>
 void mv_mirror_corrected(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
+  using One = one_of<T>;
+  const auto factor = One::splat(alpha);
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
-    y[i] = row_dot<mirror.conjugates_entry>(row, x) * alpha + y[i];
-    const T t = x[i] * alpha;
-    T strange{};
-    for (int k = 0; k < row.count; ++k) {
-      const int column = row.column[k];
+    add_to(y + i, factor * row_dot<mirror.conjugates_entry>(row, x));
+    const One t = factor * One::loadu(x + i);
+    One strange = One::zero();
+    for (int k = row.begin; k < row.end; ++k) {
+      const int column = row.columns[k];
       if (inside<side>(column, i))
-        add_image<mirror>(y + column, row.value[k], &t);
+        add_image<mirror>(y + column, row.values[k], t);
       else
-        strange += conjugate_if<mirror.conjugates_entry>(row.value[k]) * alpha * x[column];
+        strange += product<mirror.conjugates_entry>(row.values[k], alpha, One::loadu(x + column));
     }
-    y[i] = (unit ? y[i] + t : y[i]) - strange;
+    if (unit) add_to(y + i, t);
+    subtract_from(y + i, strange);
   }
 }
 

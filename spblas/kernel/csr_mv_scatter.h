@@ -7,25 +7,29 @@ namespace orb::spblas {
 
 template <bool conjugated, class T>
 void mv_general_transposed(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
+  using One = one_of<T>;
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
-    const T t = x[i] * alpha;
-    for (int k = 0; k < row.count; ++k) add_product<conjugated>(y + row.column[k], row.value[k], &t);
+    const One t = One::splat(alpha) * One::loadu(x + i);
+    for (int k = row.begin; k < row.end; ++k)
+      add_to(y + row.columns[k], product<conjugated>(row.values[k], t));
   }
 }
 
 // The whole row in a loop without a test; then what does not belong to the triangle is taken off again.
 template <bool conjugated, Side side, bool unit, class T>
 void mv_triangle_transposed(const Csr<T>& a, Range rows, T alpha, const T* x, T* y) {
+  using One = one_of<T>;
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
-    const T xi = x[i];
-    const auto part = [&](int k) { return conjugate_if<conjugated>(row.value[k]) * alpha * xi; };
-    for (int k = 0; k < row.count; ++k) y[row.column[k]] += part(k);
-    if (unit) y[i] += xi * alpha;
-    for (int k = 0; k < row.count; ++k) {
-      const int column = row.column[k];
-      if (unit ? !inside<side>(column, i) : outside<side>(column, i)) y[column] -= part(k);
+    const One xi = One::loadu(x + i);
+    for (int k = row.begin; k < row.end; ++k)
+      add_to(y + row.columns[k], product<conjugated>(row.values[k], alpha, xi));
+    if (unit) add_to(y + i, One::splat(alpha) * xi);
+    for (int k = row.begin; k < row.end; ++k) {
+      const int column = row.columns[k];
+      if (unit ? !inside<side>(column, i) : outside<side>(column, i))
+        subtract_from(y + column, product<conjugated>(row.values[k], alpha, xi));
     }
   }
 }

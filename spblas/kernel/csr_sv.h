@@ -10,8 +10,7 @@ namespace orb::spblas {
 template <bool conjugated, class T>
 void sv_diagonal(const Csr<T>& a, Range rows, T alpha, T* y) {
   for (int i = rows.first; i < rows.end; ++i) {
-    const Row<T> row = a.row(i);
-    const T diagonal = row.value[count_below(row, i)];
+    const T diagonal = a.values[end_below(a.row(i), i)];
     y[i] = quotient(alpha, conjugate_if<conjugated>(diagonal)) * y[i];
   }
 }

@@ -5,6 +5,11 @@
 
 namespace orb::spblas {
 
+template <class T>
+ORB_INLINE one_of<T> quotient_one(one_of<T> numerator, T divisor) {
+  return one(quotient(element<T>(numerator), divisor));
+}
+
 // Lower triangle, from the first row down: a running sum up to the diagonal. A row without entries divides by
 // the entry at which the row before it stopped.
 template <bool conjugated, bool unit, class T>
@@ -13,13 +18,13 @@ ORB_INLINE void solve_forward(const Csr<T>& a, Range rows, T* y, int step) {
   int stop = 0;
   for (int i = rows.first; i < rows.end; ++i) {
     One sum = One::zero();
-    const int end = a.end(i);
-    if (a.begin(i) < end)
-      for (stop = a.begin(i); stop < end && a.columns[stop] < i; ++stop)
-        sum += factor<One, conjugated>(a.values[stop]) * One::loadu(y + a.columns[stop] * step);
+    const Row<T> row = a.row(i);
+    if (row.begin < row.end)
+      for (stop = row.begin; stop < row.end && row.columns[stop] < i; ++stop)
+        sum += product<conjugated>(row.values[stop], One::loadu(y + row.columns[stop] * step));
     T* yi = y + i * step;
-    (One::loadu(yi) - sum).storeu(yi);
-    if (!unit) *yi = quotient(*yi, conjugate_if<conjugated>(a.values[stop]));
+    const One left = One::loadu(yi) - sum;
+    (unit ? left : quotient_one(left, conjugate_if<conjugated>(row.values[stop]))).storeu(yi);
   }
 }
 
@@ -27,9 +32,9 @@ ORB_INLINE void solve_forward(const Csr<T>& a, Range rows, T* y, int step) {
 template <bool conjugated, bool unit, class T>
 void sv_backward(const Csr<T>& a, Range rows, T* y) {
   for_rows<false>(rows, [&](int i) ORB_INLINE_BODY {
-    const Split<T> row = split_upper<unit>(a.row(i), i);
-    y[i] -= row_dot<conjugated>(row.inner, y);
-    if (!unit) y[i] = quotient(y[i], conjugate_if<conjugated>(*row.diagonal));
+    const Split<T> row = split<Side::upper, unit>(a.row(i), i);
+    const auto left = one_of<T>::loadu(y + i) - row_dot<conjugated>(row.inner, y);
+    (unit ? left : quotient_one(left, conjugate_if<conjugated>(*row.diagonal))).storeu(y + i);
   });
 }
 
@@ -37,15 +42,18 @@ void sv_backward(const Csr<T>& a, Range rows, T* y) {
 // up, entries from the diagonal back, for the lower one; the other way for the upper one.
 template <bool conjugated, bool unit, Side side, class T>
 void sv_transposed(const Csr<T>& a, Range rows, T* y) {
-  constexpr bool lower = side == Side::lower;
-  for_rows<!lower>(rows, [&](int i) ORB_INLINE_BODY {
-    const Split<T> row = lower ? split_lower<unit>(a.row(i), i) : split_upper<unit>(a.row(i), i);
-    if (!unit) y[i] = quotient(y[i], conjugate_if<conjugated>(*row.diagonal));
-    const T t = T{} - y[i];
-    for (int n = 0; n < row.inner.count; ++n) {
-      const int k = lower ? row.inner.count - 1 - n : n;
-      add_product<conjugated>(y + row.inner.column[k], row.inner.value[k], &t);
+  using One = one_of<T>;
+  for_rows<side == Side::upper>(rows, [&](int i) ORB_INLINE_BODY {
+    const Split<T> row = split<side, unit>(a.row(i), i);
+    One found = One::loadu(y + i);
+    if constexpr (!unit) {
+      found = quotient_one(found, conjugate_if<conjugated>(*row.diagonal));
+      found.storeu(y + i);
     }
+    const One t = One::zero() - found;
+    for_entries_outwards<side>(row.inner, [&](int k) ORB_INLINE_BODY {
+      add_to(y + row.inner.columns[k], product<conjugated>(row.inner.values[k], t));
+    });
   });
 }
 

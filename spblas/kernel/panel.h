@@ -24,6 +24,15 @@ struct Bundle {
     unroll<width>([&](auto w) ORB_INLINE_BODY { b.v[w] = f(w); });
     return b;
   }
+  // The registers one behind the other.
+  template <class T>
+  static ORB_INLINE Bundle load(const T* p) {
+    return each([&](auto w) ORB_INLINE_BODY { return V::loadu(p + w * V::lanes); });
+  }
+  template <class T>
+  ORB_INLINE void store(T* p) const {
+    unroll<width>([&](auto w) ORB_INLINE_BODY { v[w].storeu(p + w * V::lanes); });
+  }
   friend ORB_INLINE Bundle operator+(const Bundle& a, const Bundle& b) {
     return each([&](auto w) ORB_INLINE_BODY { return a.v[w] + b.v[w]; });
   }
@@ -66,37 +75,35 @@ ORB_INLINE auto factor_for(typename P::Element value) {
 }
 
 // Makes panels of one shape from the place of their first element.
-template <class V, int width, bool by_rows, int first_number>
+template <class V, int width, bool by_rows>
 struct PanelMaker {
-  static constexpr int columns = width * V::lanes;
   // The columns from j on, from 0, of the matrix p.
   template <class T>
   ORB_INLINE auto operator()(T* p, int ld, int j) const {
-    T* start = by_rows ? p + j - first_number * ld : p + j * ld - first_number;
+    T* start = by_rows ? p + j : p + j * ld - 1;  // by columns, rows count from 1
     return Panel<T, V, width, by_rows>{start, ld};
   }
 };
 
-// body(maker, j) for the columns `first` to `last`, from 1: panels of two registers by rows, of two columns
-// by columns, as long as they last, then smaller ones. All of these keep a sum of each kind in the registers.
-template <Shape s, class Body>
+template <int columns, int lanes, class Body>
+ORB_INLINE void walk_panels(int j, int end, Body body) {
+  for (; end - j >= columns; j += columns) body(Int<columns>{}, j);
+  if constexpr (columns > 1) walk_panels<(columns > lanes ? columns / 2 : 1), lanes>(j, end, body);
+}
+
+// body(maker, j) for the columns `first` to `last`, from 1: in panels of `registers` registers by rows, of as
+// many columns by columns, as long as they last, then in smaller ones.
+template <class T, bool by_rows, int registers, class Body>
 ORB_INLINE void for_panels(int first, int last, Body body) {
-  using T = element_of<s>;
   using V = vector_of<T>;
   using One = one_of<T>;
-  constexpr int base = s.first_number(), lanes = V::lanes;
-  const auto panel = [&](auto columns, int j) ORB_INLINE_BODY {
-    if constexpr (!s.by_rows() || columns < lanes)
-      body(PanelMaker<One, columns, s.by_rows(), base>{}, j);
+  constexpr int lanes = by_rows ? V::lanes : 1;
+  walk_panels<registers * lanes, lanes>(first - 1, last, [&](auto columns, int j) ORB_INLINE_BODY {
+    if constexpr (by_rows && columns >= lanes)
+      body(PanelMaker<V, columns / lanes, by_rows>{}, j);
     else
-      body(PanelMaker<V, columns / lanes, s.by_rows(), base>{}, j);
-  };
-  if constexpr (!s.by_rows() || lanes == 1)
-    ladder<2, 1>(first - 1, last, panel);
-  else if constexpr (lanes == 2)
-    ladder<4, 2, 1>(first - 1, last, panel);
-  else
-    ladder<8, 4, 2, 1>(first - 1, last, panel);
+      body(PanelMaker<One, columns, by_rows>{}, j);
+  });
 }
 
 }  // namespace orb::spblas

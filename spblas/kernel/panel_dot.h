@@ -37,11 +37,15 @@ requires P::by_columns struct PanelSums<P> {
 template <bool conjugated, class T, class P>
 ORB_INLINE typename P::Value panel_dot(const Row<T>& row, const P& x) {
   PanelSums<P> sums;
-  int k = 0;
-  for (; row.count - k >= 4; k += 4) sums.template add<conjugated>(row.value + k, row.column + k, x);
+  int k = row.begin;
+  for (; row.end - k >= 4; k += 4) sums.template add<conjugated>(row.values + k, row.columns + k, x);
   auto sum = sums.total();
-  for (; k < row.count; ++k) sum += factor_for<P, conjugated>(row.value[k]) * x.at(row.column[k]);
+  for (; k < row.end; ++k) sum += factor_for<P, conjugated>(row.values[k]) * x.at(row.columns[k]);
   return sum;
 }
+
+// The widest panel of which all sums stay in the registers.
+template <class T, bool by_rows>
+constexpr int dot_registers = by_rows ? 1 : 4 / FourSums<T>::registers;
 
 }  // namespace orb::spblas

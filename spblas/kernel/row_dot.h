@@ -12,6 +12,7 @@ namespace orb::spblas {
 template <class T>
 struct FourSums {
   using One = one_of<T>;
+  static constexpr int registers = 4;
   One sum[4] = {One::zero(), One::zero(), One::zero(), One::zero()};
 
   template <bool conjugated>
@@ -26,6 +27,7 @@ struct FourSums {
 // Sums side by side in a register, one a lane.
 template <>
 struct FourSums<double> {
+  static constexpr int registers = 2;
   f64x2 sum[2] = {f64x2::zero(), f64x2::zero()};
 
   template <bool conjugated>
@@ -39,6 +41,7 @@ struct FourSums<double> {
 };
 template <>
 struct FourSums<float> {
+  static constexpr int registers = 1;
   f32x4 sum = f32x4::zero();
 
   template <bool conjugated>
@@ -51,15 +54,37 @@ struct FourSums<float> {
   }
 };
 
+template <>
+struct FourSums<c32> {
+  using V = ComplexVector<c32>;
+  static constexpr int registers = 2;
+  V sum[2] = {V::zero(), V::zero()};
+
+  template <bool conjugated>
+  ORB_INLINE void add(const c32* value, const int* column, const c32* x) {
+    unroll<2>([&](auto k) ORB_INLINE_BODY {
+      const V numbers{f32x4::pairs(&x[column[2 * k]].re, &x[column[2 * k + 1]].re)};
+      if constexpr (conjugated)
+        sum[k] += conj(V::each(value + 2 * k)) * numbers;
+      else
+        sum[k] += V::each(value + 2 * k) * numbers;
+    });
+  }
+  ORB_INLINE ComplexLane<c32> total() const {
+    const f32x4 first = sum[0].v.low_pair() + sum[0].v.high_pair();
+    return {(first + sum[1].v.low_pair()) + sum[1].v.high_pair()};
+  }
+};
+
 template <bool conjugated, class T>
-ORB_INLINE T row_dot(const Row<T>& row, const T* x) {
+ORB_INLINE one_of<T> row_dot(const Row<T>& row, const T* x) {
   using One = one_of<T>;
   FourSums<T> sums;
-  int k = 0;
-  for (; row.count - k >= 4; k += 4) sums.template add<conjugated>(row.value + k, row.column + k, x);
+  int k = row.begin;
+  for (; row.end - k >= 4; k += 4) sums.template add<conjugated>(row.values + k, row.columns + k, x);
   One sum = sums.total();
-  for (; k < row.count; ++k) sum += factor<One, conjugated>(row.value[k]) * One::loadu(x + row.column[k]);
-  return element<T>(sum);
+  for (; k < row.end; ++k) sum += product<conjugated>(row.values[k], One::loadu(x + row.columns[k]));
+  return sum;
 }
 
 }  // namespace orb::spblas
