@@ -12,6 +12,7 @@ struct Tour {
   std::filesystem::path data;      // input files
   std::filesystem::path pictures;  // where pictures, their data and scripts go
   Report& report;
+  std::filesystem::path matrix = {};  // the user's own, for the sparse chapter
 };
 
 struct Chapter {
@@ -21,6 +22,7 @@ struct Chapter {
 };
 
 void dense(Tour&);
+void sparse(Tour&);
 
 // Which libraries were loaded, for which class of processor, and how many threads they may use.
 void introduce(Report&);

@@ -14,6 +14,7 @@ using namespace orb::tour;
 
 constexpr Chapter chapters[] = {
     {1, "Dense matrices: a volcano in a few numbers", dense},
+    {sparse_chapter, "Sparse matrices: a structure under load", sparse},
 };
 
 bool is_chosen(const Options& options, const Chapter& chapter) {
@@ -26,7 +27,7 @@ int run(const Options& options) {
   Report report;
   introduce(report);
   std::filesystem::create_directories(options.out);
-  Tour tour{options.data, options.out, report};
+  Tour tour{options.data, options.out, report, options.matrix};
   for (const Chapter& chapter : chapters) {
     if (!is_chosen(options, chapter)) continue;
     report.heading(chapter.number, chapter.title);
@@ -43,7 +44,7 @@ int run(const Options& options) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  const auto parsed = parse_options({arguments + 1, arguments + count}, int(std::size(chapters)));
+  const auto parsed = parse_options({arguments + 1, arguments + count}, std::end(chapters)[-1].number);
   if (const auto* wrong = std::get_if<std::string>(&parsed)) {
     std::fprintf(stderr, "orb-tour: %s\n%s", wrong->c_str(), usage);
     return 2;

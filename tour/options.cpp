@@ -10,6 +10,9 @@ std::variant<Options, std::string> parse_options(const std::vector<std::string>&
     const std::string& argument = arguments[i];
     if (argument == "--help") {
       options.help = true;
+    } else if (argument == "--matrix") {
+      if (++i == arguments.size() || arguments[i].empty()) return argument + " needs a file";
+      options.matrix = arguments[i];
     } else if (argument == "--data" || argument == "--out") {
       if (++i == arguments.size() || arguments[i].empty()) return argument + " needs a folder";
       (argument == "--data" ? options.data : options.out) = arguments[i];
@@ -22,6 +25,7 @@ std::variant<Options, std::string> parse_options(const std::vector<std::string>&
       options.chapters.push_back(number);
     }
   }
+  if (!options.matrix.empty() && options.chapters.empty()) options.chapters = {sparse_chapter};
   return options;
 }
 

@@ -74,7 +74,9 @@ TEST(Tour, Options) {
   EXPECT_EQ(good.data, "d");
   EXPECT_EQ(good.out, "o");
   EXPECT_EQ(good.chapters, (std::vector<int>{2, 1}));
-  for (const std::vector<std::string>& bad : {std::vector<std::string>{"0"}, {"4"}, {"1x"}, {""}, {"--out"}})
+  EXPECT_EQ(std::get<Options>(parse_options({"--matrix", "m"}, 4)).chapters, (std::vector<int>{4}));
+  EXPECT_EQ(std::get<Options>(parse_options({"1", "--matrix", "m"}, 4)).chapters, (std::vector<int>{1}));
+  for (const std::vector<std::string>& bad : {std::vector<std::string>{"0"}, {"4"}, {"1x"}, {""}, {"--out"}, {"--matrix"}})
     EXPECT_TRUE(std::holds_alternative<std::string>(parse_options(bad, 3))) << bad[0];
 }
 
