@@ -17,6 +17,10 @@ constexpr Chapter chapters[] = {
     {sparse_chapter, "Sparse matrices: a structure under load", sparse},
 };
 
+bool exists(int number) {
+  return std::any_of(std::begin(chapters), std::end(chapters), [=](auto& c) { return c.number == number; });
+}
+
 bool is_chosen(const Options& options, const Chapter& chapter) {
   const auto& chosen = options.chapters;
   return chosen.empty() || std::find(chosen.begin(), chosen.end(), chapter.number) != chosen.end();
@@ -51,6 +55,8 @@ int main(int count, char** arguments) {
   }
   const Options& options = std::get<Options>(parsed);
   if (options.help) return std::fputs(usage, stdout), 0;
+  for (int number : options.chapters)
+    if (!exists(number)) return std::fprintf(stderr, "orb-tour: there is no chapter %d\n", number), 2;
   try {
     return run(options);
   } catch (const std::exception& failure) {

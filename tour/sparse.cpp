@@ -99,10 +99,10 @@ void check_descent(Report& report, const MarketMatrix& file, const SparseMatrix<
 
 std::string outcome(const Descent& run, double seconds) {
   const int steps = int(run.residuals.size()) - 1;
-  const char* end = run.converged  ? "converged"
-                    : run.definite ? "gave up"
-                                   : "stopped, for the matrix is not positive definite";
-  return text("%s after %d steps, %.2f ms, residual %.1e", end, steps, 1e3 * seconds, run.residuals.back());
+  const std::string words =
+      text("%s after %d steps, %.2f ms, residual %.1e", run.converged ? "converged" : "stopped", steps,
+           1e3 * seconds, run.residuals.back());
+  return run.definite ? words : words + ": the matrix is not positive definite";
 }
 
 void solve(Tour& tour, const MarketMatrix& file, const SparseMatrix<double>& a) {

@@ -26,8 +26,10 @@ void sweep(const Csr<T>& a, Range rows, int first, int last, T alpha, Dense<cons
     });
   };
   if constexpr (by_rows)
-    for (int i = rows.first; i < rows.end; ++i)
-      panels([&](const auto& bp, const auto& cp) ORB_INLINE_BODY { Step::row(a.row(i), i, alpha, bp, cp); });
+    for (int i = rows.first; i < rows.end; ++i) {
+      const Row<T> row = a.row(i);
+      panels([&](const auto& bp, const auto& cp) ORB_INLINE_BODY { Step::row(row, i, alpha, bp, cp); });
+    }
   else
     panels([&](const auto& bp, const auto& cp) ORB_INLINE_BODY {
       for (int i = rows.first; i < rows.end; ++i) Step::row(a.row(i), i, alpha, bp, cp);

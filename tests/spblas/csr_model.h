@@ -21,7 +21,7 @@ template <class T>
 class Model {
  public:
   using Vector = std::vector<T>;
-  Model(const Name& name, const Matrix<T>& a, T alpha) : name(name), a(a), alpha(alpha) {}
+  Model(const Name& kernel, const Matrix<T>& matrix, T factor) : name(kernel), a(matrix), alpha(factor) {}
 
   // Products of the rows `first` to `last`, from 1.
   void mv(int first, int last, const Vector& x, Vector& y) {
@@ -61,8 +61,8 @@ class Model {
   // One right-hand side. `by_reciprocal`: as the kernels for many have it.
   void solve(Vector& y, bool by_reciprocal) {
     const bool rising = name.kind == 'd' || name.lower() != name.transposes();
-    for (int n = 0; n < a.m(); ++n) {
-      row = rising ? n : a.m() - 1 - n;
+    for (int turn = 0; turn < a.m(); ++turn) {
+      row = rising ? turn : a.m() - 1 - turn;
       if (name.kind == 'd') {
         here(y) = multiply(divide(alpha, at_diagonal()), here(y));
       } else if (name.transposes()) {
