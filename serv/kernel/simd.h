@@ -263,6 +263,7 @@ struct Lane {
   friend ORB_INLINE Lane operator+(Lane a, Lane b) { return {a.v + b.v}; }
   friend ORB_INLINE Lane operator-(Lane a, Lane b) { return {a.v - b.v}; }
   friend ORB_INLINE Lane operator*(Lane a, Lane b) { return {a.v * b.v}; }
+  friend ORB_INLINE Lane operator/(Lane a, Lane b) { return {a.v / b.v}; }
   ORB_INLINE Lane& operator+=(Lane b) { return *this = *this + b; }
 };
 

@@ -29,6 +29,7 @@ const char* const families[] = {
     "signal-real",
     "signal-real.optional",
     "sparse-csr",         //
+    "blas-lapack",        //
 };
 
 std::vector<std::string> lines_of(const std::string& list) {
