@@ -19,6 +19,25 @@ TEST(Tour, CsvIsReadByRows) {
   EXPECT_EQ(table.elements, (std::vector<double>{1, 4, 2.5, 500, -3, 6}));
 }
 
+TEST(Tour, NamesStandAboveTheirColumns) {
+  std::istringstream in("a, b.c\r\n1,2\n3,4\n");
+  const NamedColumns table = read_named_csv(in, "table");
+  EXPECT_EQ(table.names, (std::vector<std::string>{"a", "b.c"}));
+  EXPECT_EQ(table.values.elements, (std::vector<double>{1, 3, 2, 4}));
+  for (const auto& [content, message] :
+       {std::pair{"", "f: the file is empty"},
+        {"a,b\n", "f: there are no numbers"},
+        {"a,b\n1,2,3\n", "f, line 2: there are 3 values here and 2 in the first line"}}) {
+    std::istringstream bad(content);
+    try {
+      read_named_csv(bad, "f");
+      ADD_FAILURE() << "accepted: " << content;
+    } catch (const BadFile& wrong) {
+      EXPECT_STREQ(wrong.what(), message);
+    }
+  }
+}
+
 TEST(Tour, BadCsvIsAnsweredWithLineAndReason) {
   const struct {
     const char *content, *message;
