@@ -25,8 +25,8 @@ ORB_BEGIN_DECLS
  *  number). The factor of the minor of order k - 1 is in place then, and the pivot stands at A(k, k); what
  *  lies beyond is half done.
  *
- *  The matrix is halved down to orders of 48 at most, the halves joined by a triangular solve and a symmetric
- *  update. Scratch is that of those. The factor satisfies |A - L L^H| <= c (n + 1) u |L| |L^H|, c = 1 for
+ *  The matrix is halved down to orders of 32 at most, the halves joined by a triangular solve and a symmetric
+ *  update. Scratch is that of those. The factor satisfies |A - L L^H| <= c (n + 4) u |L| |L^H|, c = 1 for
  *  real elements. Sources: F. G. Gustavson, Recursion leads to automatic variable blocking for dense
  *  linear-algebra algorithms, IBM J. Res. Dev. 41 (1997) 737-755; N. J. Higham, Accuracy and Stability of
  *  Numerical Algorithms, section 10.1. */
