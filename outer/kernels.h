@@ -4,6 +4,7 @@
 #include <atomic>
 
 #include "orb/blas_gemm.h"
+#include "orb/blas_lapack.h"
 #include "orb/blas_level1.h"
 #include "orb/blas_level2.h"
 #include "orb/blas_level3.h"

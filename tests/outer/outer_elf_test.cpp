@@ -29,6 +29,7 @@ TEST_F(Outer, ExportsWhatItsHeadersDeclare) {
   for (const char* header : {"cblas.h", "cblas_level2.h", "cblas_level3.h"})
     add_declared(declared, header, "\\b(cblas_\\w+)\\(");
   add_declared(declared, "services.h", "\\b(orb_\\w+)\\(");
+  add_declared(declared, "lapack.h", "\\b(orb_\\w+)\\(");
   add_declared(declared, "orb.h", "\\b(orb_\\w+)\\(");
   add_declared(declared, "sparse.h", "\\b(orb_\\w+)\\(");
   EXPECT_EQ(elf.exported(), declared);
