@@ -14,6 +14,7 @@ using namespace orb::tour;
 
 constexpr Chapter chapters[] = {
     {1, "Dense matrices: a volcano in a few numbers", dense},
+    {2, "Regression: what conditioning costs", regression},
     {sparse_chapter, "Sparse matrices: a structure under load", sparse},
 };
 
