@@ -30,7 +30,7 @@ ORB_BEGIN_DECLS
  * not conjugated, `xzgemm` makes one call of the upward orb_blas_zgemv() for each of the last n mod 3
  * columns; such a product is to be divided at columns that are multiples of 3, into pieces of 64 and more.
  *
- *  `xcgemm` asks orb_serv_l2cache() for its column block.
+ *  Columns are taken 240 at a time, by `xcgemm` 480 if orb_serv_l2cache() is 3.
  *
  *  Source: K. Goto, R. van de Geijn, Anatomy of high-performance matrix multiplication, ACM TOMS 34 (2008).
  * */

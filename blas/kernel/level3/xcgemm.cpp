@@ -45,7 +45,8 @@ ORB_EXPORT void orb_blas_xcgemm(const char* transa, const char* transb, const in
     return;
   }
   const Product<c32> p{*m, *n, *k, *alpha, {transa, a, *lda}, {transb, b, *ldb}, *beta, c, *ldc};
-  multiply(p, orb_serv_l2cache() == 3 ? most_columns_of_large_cache : most_columns);
+  const bool wide = *n > most_columns && orb_serv_l2cache() == 3;
+  multiply(p, wide ? most_columns_of_large_cache : most_columns);
 }
 
 ORB_EXPORT void orb_blas_xzgemm(const char* transa, const char* transb, const int* m, const int* n,
