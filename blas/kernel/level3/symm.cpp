@@ -12,6 +12,7 @@ namespace orb::blas {
 namespace {
 
 constexpr int most_width = 256;  // of a block column: two full panels of the products
+constexpr int thin_width = 64;   // where writing a block out in full weighs more
 constexpr int alignment = 64;    // of scratch
 constexpr int small_order = 32;  // a matrix that fits the stack in full
 
@@ -54,18 +55,32 @@ struct Call {
   int ldc;
 };
 
+// Few columns or rows of B meet each number of A.
+template <class T>
+bool is_thin(const Call<T>& s) {
+  return (s.left ? s.n : s.m) < 32;
+}
+
+// C = alpha op(X) op(Y) + beta C on tiles, which suit thin factors better than the products' panels.
+template <class T>
+void thin_product(int m, int n, int k, T alpha, Factored<T> x, Factored<T> y, T beta, T* c, int ldc) {
+  const tiles::Operand<T> a(x.trans, x.p, x.ld), b(y.trans, y.p, y.ld);
+  const tiles::Product<T> p{m, n, k, alpha, a, b, beta, c, ldc};
+  tiles::with_room<T>(m, k, alignment, [&](const tiles::Room<T>& room) { p.run(room, n); });
+}
+
 // `scratch` has room for a square of `most` rows and columns.
 template <bool hermitian, class T>
 void multiply(const Call<T>& s, const Triangle<hermitian, T>& a, int order, int most, T* scratch) {
   for (int j = 0; j < order; j += most) {
     const int width = std::min(most, order - j), below = j + width;
+    const auto add = is_thin(s) ? thin_product<T> : product<T>;
     const auto take = [&](int i, int height, Factored<T> block, T old) {
       if (height == 0) return;
       if (s.left)
-        product<T>(height, s.n, width, s.alpha, block, {'N', s.b + j, s.ldb}, old, s.c + i, s.ldc);
+        add(height, s.n, width, s.alpha, block, {'N', s.b + j, s.ldb}, old, s.c + i, s.ldc);
       else
-        product<T>(s.m, width, height, s.alpha, {'N', s.b + i * s.ldb, s.ldb}, block, old, s.c + j * s.ldc,
-                   s.ldc);
+        add(s.m, width, height, s.alpha, {'N', s.b + i * s.ldb, s.ldb}, block, old, s.c + j * s.ldc, s.ldc);
     };
     // beta is for the first product that reaches an element.
     const T one = number<T>(1), old = s.left && j > 0 ? one : s.beta, next = s.left ? old : one;
@@ -78,11 +93,8 @@ void multiply(const Call<T>& s, const Triangle<hermitian, T>& a, int order, int 
 template <bool hermitian, class T>
 __attribute__((noinline)) void multiply_small(const Call<T>& s, const Triangle<hermitian, T>& a, int order) {
   alignas(16) T scratch[small_order * small_order];
-  a.square(0, order, scratch);
-  const tiles::Operand<T> full('N', scratch, order), b('N', s.b, s.ldb);
-  const tiles::Product<T> p{s.m,    s.n, order, s.alpha, s.left ? full : b, s.left ? b : full,
-                            s.beta, s.c, s.ldc};
-  tiles::with_room<T>(s.m, order, alignment, [&](const tiles::Room<T>& room) { p.run(room, s.n); });
+  const Factored<T> full = a.square(0, order, scratch), b{'N', s.b, s.ldb};
+  thin_product(s.m, s.n, order, s.alpha, s.left ? full : b, s.left ? b : full, s.beta, s.c, s.ldc);
 }
 
 template <bool hermitian, class T>
@@ -91,7 +103,7 @@ void symm(const char* uplo, const Call<T>& s, const T* p, int ld) {
   if (is_zero(s.alpha))
     return product<T>(s.m, s.n, 0, s.alpha, {'N', p, ld}, {'N', s.b, s.ldb}, s.beta, s.c, s.ldc);
   const Triangle<hermitian, T> a{is_option(uplo, 'U'), p, ld};
-  const int order = s.left ? s.m : s.n, most = std::min(order, most_width);
+  const int order = s.left ? s.m : s.n, most = std::min(order, is_thin(s) ? thin_width : most_width);
   if (order <= small_order) return multiply_small(s, a, order);
   T* const scratch = static_cast<T*>(orb_serv_allocate(most * most * int(sizeof(T)), alignment));
   multiply(s, a, order, most, scratch);
