@@ -121,19 +121,19 @@ void describe(Report& report, const Problem& problem, const std::string& file) {
 // What the condition of the matrix says before anything is solved.
 void foretell(Report& report, const Problem& problem, const Balanced& balanced) {
   const double kappa = balanced.kappa, all = -std::log10(unit_roundoff);
-  report.fact("condition",
-              text("%.2e as the table stands, %.2e with columns of length 1: the quotient of the",
-                   condition(all_singular_values(problem.x)), kappa));
+  const double unscaled = condition(all_singular_values(problem.x));
+  report.fact(
+      "condition",
+      text("%.2e as the table stands, %.2e with columns of length 1: the quotient of the", unscaled, kappa));
   report.fact("", "largest and the smallest singular value, by plane rotations (ddot, drot)");
   report.gap();
   report.paragraph(text(
       "The condition tells how much of an error in the data comes out in the coefficients. Doubles carry "
-      "%.1f digits; at a condition of %.1e, the errors of rounding alone cost %.1f of them, by whatever "
-      "road. But the normal equations X'X b = X'y have the square of it, %.1e: once X'X is rounded, twice "
+      "%.1f digits; at a condition of %.1e, rounding the data alone may cost %.1f of them, by whatever road. "
+      "But the normal equations X'X b = X'y have the square of it, %.1e: once X'X is rounded, twice "
       "as many digits are gone, %.1f of %.1f, and no care afterwards brings them back. (Of the %.0e that "
       "the table shows as it stands, all but this is the size of its columns, which costs nothing.)",
-      all, kappa, std::log10(kappa), kappa * kappa, 2 * std::log10(kappa), all,
-      condition(all_singular_values(problem.x))));
+      all, kappa, std::log10(kappa), kappa * kappa, 2 * std::log10(kappa), all, unscaled));
 }
 
 std::vector<Digits> compare(Report& report, const Problem& problem, const Fit& normal, const Fit& reflected) {
