@@ -54,7 +54,6 @@ class Lapack : public testing::Test {
     EXPECT_EQ(info, -place) << name;
     told.clear();
   }
-  T work[4] = {};
 };
 using Types = testing::Types<float, double, orb_complex_float, orb_complex_double>;
 TYPED_TEST_SUITE(Lapack, Types);
@@ -68,7 +67,7 @@ TYPED_TEST(Lapack, Factorisations) {
                {'u', 1, 1, 0, 0, 7},  {'u', 1, 1, -2, 0, 7}, {'L', 1, 1, 1, 0, 0}, {'L', 0, 1, -1, 0, 0}};
   for (const auto& c : cases) {
     int info = 77, ipiv[2] = {};
-    T x = number<T>(4), *const work = this->work;
+    T x = number<T>(4), work[400] = {};
     call_face(Names<T>::potrf, &c.uplo, c.n, &x, c.lda, &info);
     this->heard("POTRF", c.potrf, info);
     EXPECT_EQ(wide(x), Wide(c.potrf == 0 && c.n == 1 ? 2 : 4));
@@ -113,7 +112,7 @@ TYPED_TEST(Lapack, RotationsAndReflectors) {
                {'L', 'V', 'F', 2, 1, 2, 0, 0}};
   for (const auto& k : cases) {
     const T v[2] = {number<T>(1), number<T>(1)}, tau = number<T>(1);
-    T x[2] = {number<T>(1), number<T>(2)}, *const work = this->work;
+    T x[2] = {number<T>(1), number<T>(2)}, work[2];
     call_face(Names<T>::lasr, &k.side, &k.pivot, &k.direct, k.m, k.n, &c, &s, x, k.ld);
     this->heard("LASR ", k.lasr, -k.lasr);
     EXPECT_EQ(wide(x[0]), Wide(k.lasr ? 1 : 2));

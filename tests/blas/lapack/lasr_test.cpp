@@ -48,8 +48,8 @@ void rotate(T& x, T& y, part_of<T> c, part_of<T> s) {
 template <class T>
 class Lasr : public Factor<T> {
  protected:
-  using R = part_of<T>;
-  static void check(Sequence q, int m, int n, const std::vector<R>& c, const std::vector<R>& s,
+  using Part = part_of<T>;
+  static void check(Sequence q, int m, int n, const std::vector<Part>& c, const std::vector<Part>& s,
                     const Table<T>& a) {
     const bool left = q.side == 'L';
     const int z = left ? m : n;
