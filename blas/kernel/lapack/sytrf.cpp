@@ -9,8 +9,6 @@
 namespace orb::blas {
 namespace {
 
-constexpr int panel_width = 32;
-
 // The lower triangle of C, of order n, -= L W^T, L and W n by k. Halved until a product of single columns is
 // all that is left: the other triangle is not ours.
 template <bool upper, class T>

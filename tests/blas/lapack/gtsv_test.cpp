@@ -6,16 +6,7 @@ using namespace orb::test;
 namespace {
 
 template <class T>
-constexpr auto gtsv = [] {
-  if constexpr (std::is_same_v<T, float>)
-    return orb_blas_sgtsv;
-  else if constexpr (std::is_same_v<T, double>)
-    return orb_blas_dgtsv;
-  else if constexpr (std::is_same_v<T, c32>)
-    return orb_blas_cgtsv;
-  else
-    return orb_blas_zgtsv;
-}();
+constexpr auto gtsv = entry_of<T>(orb_blas_sgtsv, orb_blas_dgtsv, orb_blas_cgtsv, orb_blas_zgtsv);
 
 long double row_norm(const WideMatrix& a) {
   long double most = 0;

@@ -6,16 +6,7 @@ using namespace orb::test;
 namespace {
 
 template <class T>
-constexpr auto larfx = [] {
-  if constexpr (std::is_same_v<T, float>)
-    return orb_blas_slarfx;
-  else if constexpr (std::is_same_v<T, double>)
-    return orb_blas_dlarfx;
-  else if constexpr (std::is_same_v<T, c32>)
-    return orb_blas_clarfx;
-  else
-    return orb_blas_zlarfx;
-}();
+constexpr auto larfx = entry_of<T>(orb_blas_slarfx, orb_blas_dlarfx, orb_blas_clarfx, orb_blas_zlarfx);
 
 template <class T>
 class Larfx : public Factor<T> {};

@@ -7,16 +7,7 @@ using namespace orb::test;
 namespace {
 
 template <class T>
-constexpr auto lasr = [] {
-  if constexpr (std::is_same_v<T, float>)
-    return orb_blas_slasr;
-  else if constexpr (std::is_same_v<T, double>)
-    return orb_blas_dlasr;
-  else if constexpr (std::is_same_v<T, c32>)
-    return orb_blas_clasr;
-  else
-    return orb_blas_zlasr;
-}();
+constexpr auto lasr = entry_of<T>(orb_blas_slasr, orb_blas_dlasr, orb_blas_clasr, orb_blas_zlasr);
 
 struct Sequence {
   char side, pivot, direct;

@@ -7,16 +7,7 @@ using namespace orb::test;
 namespace {
 
 template <class T>
-constexpr auto potrf = [] {
-  if constexpr (std::is_same_v<T, float>)
-    return orb_blas_spotrf;
-  else if constexpr (std::is_same_v<T, double>)
-    return orb_blas_dpotrf;
-  else if constexpr (std::is_same_v<T, c32>)
-    return orb_blas_cpotrf;
-  else
-    return orb_blas_zpotrf;
-}();
+constexpr auto potrf = entry_of<T>(orb_blas_spotrf, orb_blas_dpotrf, orb_blas_cpotrf, orb_blas_zpotrf);
 
 // A Hermitian matrix by its lower triangle, stored in either one; the other triangle and the imaginary parts
 // of the diagonal are NaN, so that their use shows.

@@ -84,6 +84,15 @@ struct WideMatrix {
   Wide operator()(int i, int j) const { return elements[size_t(i * cols + j)]; }
 };
 
+// Of the four entries of a routine, the one for elements of type T.
+template <class T, class S, class D, class C, class Z>
+constexpr auto entry_of(S s, D d, C c, Z z) {
+  if constexpr (is_complex<T>)
+    return std::get<sizeof(T) == sizeof(c64)>(std::pair(c, z));
+  else
+    return std::get<sizeof(T) == sizeof(double)>(std::pair(s, d));
+}
+
 using ElementTypes = testing::Types<float, double, c32, c64>;
 
 // A suite in which no call may leave scratch behind or write beside it.
