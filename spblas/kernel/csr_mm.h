@@ -17,47 +17,53 @@ struct Dense {
 // One step of the work on all of a range of rows and of columns. By rows, a row of the matrix meets all dense
 // columns before the next, and lines of B and C are used whole; by columns, a panel of columns stays while
 // the matrix passes.
-template <class Step, bool by_rows, class T>
-void sweep(const Csr<T>& a, Range rows, int first, int last, T alpha, Dense<const T> b, Dense<T> c) {
-  constexpr int registers = Step::template registers<T, by_rows>;
-  const auto panels = [&](auto body) ORB_INLINE_BODY {
+template <bool by_rows, class Step, class T>
+void sweep(Step step, const Csr<T>& a, Range rows, int first, int last, T alpha, Dense<const T> b,
+           Dense<T> c) {
+  const auto panels = [&](auto registers, auto body) ORB_INLINE_BODY {
     for_panels<T, by_rows, registers>(first, last, [&](auto panel, int j) ORB_INLINE_BODY {
       body(panel(b.p, b.ld, j), panel(c.p, c.ld, j));
     });
   };
+  const auto row_by_panels = [&]<class S>(S step_of_row, const Row<T>& row, int i) ORB_INLINE_BODY {
+    panels(Int<S::template registers<T, true>>{},
+           [&](const auto& bp, const auto& cp) ORB_INLINE_BODY { step_of_row.row(row, i, alpha, bp, cp); });
+  };
   if constexpr (by_rows)
     for (int i = rows.first; i < rows.end; ++i) {
       const Row<T> row = a.row(i);
-      panels([&](const auto& bp, const auto& cp) ORB_INLINE_BODY { Step::row(row, i, alpha, bp, cp); });
+      if constexpr (requires { typename Step::ForShortRows; })
+        if (is_short(row)) {
+          row_by_panels(typename Step::ForShortRows{}, row, i);
+          continue;
+        }
+      row_by_panels(step, row, i);
     }
   else
-    panels([&](const auto& bp, const auto& cp) ORB_INLINE_BODY {
-      for (int i = rows.first; i < rows.end; ++i) Step::row(a.row(i), i, alpha, bp, cp);
+    panels(Int<Step::template registers<T, false>>{}, [&](const auto& bp, const auto& cp) ORB_INLINE_BODY {
+      for (int i = rows.first; i < rows.end; ++i) step.row(a.row(i), i, alpha, bp, cp);
     });
 }
 
-// The steps that make up the kernels, in order.
-template <class... Steps>
-struct Work {};
-template <Shape s>
-consteval auto work_of() {
-  constexpr bool conjugates = s.conjugates(), unit = s.unit();
-  if constexpr (s.kind == 'd')
-    return Work<DiagonalEntries<conjugates>>{};
-  else if constexpr (s.kind == 'g' && s.transposes())
-    return Work<GeneralTransposed<conjugates>>{};
-  else if constexpr (s.kind == 'g')
-    return Work<General<conjugates>>{};
-  else if constexpr (s.kind == 't' && s.transposes())
-    return Work<TriangleTransposed<conjugates, s.side(), unit>>{};
-  else if constexpr (s.kind == 't')
-    return Work<WholeRow<conjugates>, Correction<conjugates, s.side(), unit>>{};
-  else
-    return Work<WholeRow<s.conjugates_entry()>, MirrorImages<mirror_of<s>, s.side(), unit>>{};
-}
-template <bool by_rows, class... Steps, class... A>
-ORB_INLINE void run(Work<Steps...>, const A&... arguments) {
-  (sweep<Steps, by_rows>(arguments...), ...);
+// f(step) for the steps that make up a kernel, in order.
+template <Shape s, class F>
+ORB_INLINE void for_steps(F f) {
+  constexpr bool conjugates = s.conjugates();
+  if constexpr (s.kind == 'd') {
+    f(DiagonalEntries<conjugates>{});
+  } else if constexpr (s.kind == 'g' && s.transposes()) {
+    f(GeneralTransposed<conjugates>{});
+  } else if constexpr (s.kind == 'g') {
+    f(General<conjugates>{});
+  } else if constexpr (s.kind == 't' && s.transposes()) {
+    f(TriangleTransposed<conjugates, s.side()>{s.unit()});
+  } else {
+    f(WholeRow<s.conjugates_entry()>{});
+    if constexpr (s.kind == 't')
+      f(Correction<conjugates, s.side()>{s.unit()});
+    else
+      f(MirrorImages<mirror_of<s>, s.side()>{s.unit()});
+  }
 }
 
 template <Shape s, class T = element_of<s>>
@@ -67,12 +73,12 @@ ORB_INLINE void csr_mm_par(int first, int last, int m, int k, T alpha, const T* 
   const Csr<T> a = csr<s>(values, columns, row_begin, row_end);
   const Range all = rows<s>(1, m);
   constexpr bool in_blocks = s.kind == 'g' && !s.transposes() && !s.by_rows();
-  const int step = in_blocks ? rows_per_block<s.conjugates()>(a, all.end - 1, m, k) : m;
-  // The last of m / step blocks runs to the end.
+  const int length = in_blocks ? rows_per_block<s.conjugates()>(a, all.end - 1, m, k) : m;
+  // The last of m / length blocks runs to the end.
   Range block{all.first, all.first};
-  for (int left = m < step ? 1 : m / step; left > 0; --left) {
-    block = {block.end, left > 1 ? block.end + step : all.end};
-    run<s.by_rows()>(work_of<s>(), a, block, first, last, alpha, b, c);
+  for (int left = m < length ? 1 : m / length; left > 0; --left) {
+    block = {block.end, left > 1 ? block.end + length : all.end};
+    for_steps<s>([&](auto step) { sweep<s.by_rows()>(step, a, block, first, last, alpha, b, c); });
   }
 }
 
@@ -89,8 +95,10 @@ ORB_INLINE void csr_mm_seq(int m, int n, const T* alpha, const T* values, const 
   if constexpr (s.unit())
     s.by_rows() ? mm_identity(m, n, alpha, b, c) : mm_identity(n, m, alpha, b, c);
   else
-    run<s.by_rows()>(work_of<s>(), csr<s>(values, columns, row_begin, row_end), rows<s>(1, m), 1, n, *alpha,
-                     b, c);
+    for_steps<s>([&](auto step) {
+      sweep<s.by_rows()>(step, csr<s>(values, columns, row_begin, row_end), rows<s>(1, m), 1, n, *alpha, b,
+                         c);
+    });
 }
 
 }  // namespace orb::spblas

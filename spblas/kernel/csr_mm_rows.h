@@ -8,12 +8,24 @@
 namespace orb::spblas {
 
 template <bool conjugated>
+struct GeneralShort {
+  template <class T, bool by_rows>
+  static constexpr int registers = 4;
+
+  template <class T, class B, class C>
+  ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) const {
+    c.put(i, C::Register::splat(alpha) * short_panel_dot<conjugated>(row, b) + c.at(i));
+  }
+};
+
+template <bool conjugated>
 struct General {
+  using ForShortRows = GeneralShort<conjugated>;
   template <class T, bool by_rows>
   static constexpr int registers = dot_registers<T, by_rows>;
 
   template <class T, class B, class C>
-  static ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) {
+  ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) const {
     c.put(i, C::Register::splat(alpha) * panel_dot<conjugated>(row, b) + c.at(i));
   }
 };
@@ -26,7 +38,7 @@ struct WholeRow {
   static constexpr int registers = 2;
 
   template <class T, class B, class C>
-  static ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) {
+  ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) const {
     const auto factor = C::Register::splat(alpha);
     const auto term = [&](int k) ORB_INLINE_BODY {
       return factor_for<B, conjugated>(row.values[k]) * b.at(row.columns[k]);
@@ -46,16 +58,18 @@ struct WholeRow {
 };
 
 // The second sweep over a triangle: what does not belong to it is summed and taken off.
-template <bool conjugated, Side side, bool unit>
+template <bool conjugated, Side side>
 struct Correction {
+  bool unit;
+
   template <class T, bool by_rows>
   static constexpr int registers = 2;
 
   template <class T, class B, class C>
-  static ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) {
+  ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) const {
     auto strange = C::Value::zero();
     for (int k = row.begin; k < row.end; ++k)
-      if (unit ? !inside<side>(row.columns[k], i) : outside<side>(row.columns[k], i))
+      if (outside<side>(row.columns[k], i) || (unit && row.columns[k] == i))
         strange += C::Register::splat(conjugate_if<conjugated>(row.values[k]) * alpha) * b.at(row.columns[k]);
     auto sum = c.at(i);
     if (unit) sum += C::Register::splat(alpha) * b.at(i);
@@ -65,13 +79,15 @@ struct Correction {
 
 // The same with the mirror images. The diagonal: ones (unit), or as the first sweep left it, or zero for a
 // mirror that negates.
-template <Mirror mirror, Side side, bool unit>
+template <Mirror mirror, Side side>
 struct MirrorImages {
+  bool unit;
+
   template <class T, bool by_rows>
   static constexpr int registers = 2;
 
   template <class T, class B, class C>
-  static ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) {
+  ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) const {
     const auto t = C::Register::splat(alpha) * b.at(i);
     auto strange = C::Value::zero();
     for (int k = row.begin; k < row.end; ++k) {
@@ -90,24 +106,27 @@ struct MirrorImages {
 
 template <bool conjugated>
 struct GeneralTransposed {
+  // By columns, each column more is one more stretch of memory that entries are scattered over.
   template <class T, bool by_rows>
-  static constexpr int registers = 4;
+  static constexpr int registers = by_rows ? 4 : 2;
 
   template <class T, class B, class C>
-  static ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) {
+  ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) const {
     const auto t = C::Register::splat(alpha) * b.at(i);
     for (int k = row.begin; k < row.end; ++k)
       c.put(row.columns[k], c.at(row.columns[k]) + factor_for<C, conjugated>(row.values[k]) * t);
   }
 };
 
-template <bool conjugated, Side side, bool unit>
+template <bool conjugated, Side side>
 struct TriangleTransposed {
+  bool unit;
+
   template <class T, bool by_rows>
   static constexpr int registers = 2;
 
   template <class T, class B, class C>
-  static ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) {
+  ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) const {
     const auto bi = b.at(i);
     const auto part = [&](int k) ORB_INLINE_BODY {
       return C::Register::splat(conjugate_if<conjugated>(row.values[k]) * alpha) * bi;
@@ -116,7 +135,7 @@ struct TriangleTransposed {
     if (unit) c.put(i, c.at(i) + C::Register::splat(alpha) * bi);
     for (int k = row.begin; k < row.end; ++k) {
       const int column = row.columns[k];
-      if (unit ? !inside<side>(column, i) : outside<side>(column, i)) c.put(column, c.at(column) - part(k));
+      if (outside<side>(column, i) || (unit && column == i)) c.put(column, c.at(column) - part(k));
     }
   }
 };
@@ -127,7 +146,7 @@ struct DiagonalEntries {
   static constexpr int registers = 2;
 
   template <class T, class B, class C>
-  static ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) {
+  ORB_INLINE void row(const Row<T>& row, int i, T alpha, const B& b, const C& c) const {
     for (int k = row.begin; k < row.end; ++k)
       if (row.columns[k] == i)
         c.put(i, c.at(i) + C::Register::splat(conjugate_if<conjugated>(row.values[k]) * alpha) * b.at(i));

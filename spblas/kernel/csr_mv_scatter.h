@@ -1,6 +1,7 @@
 // Products of the transposed matrix with a vector: row i goes out to y, times x[i].
 #pragma once
 
+#include "serv/kernel/loops.h"
 #include "spblas/kernel/csr.h"
 
 namespace orb::spblas {
@@ -11,8 +12,12 @@ void mv_general_transposed(const Csr<T>& a, Range rows, T alpha, const T* x, T* 
   for (int i = rows.first; i < rows.end; ++i) {
     const Row<T> row = a.row(i);
     const One t = One::splat(alpha) * One::loadu(x + i);
-    for (int k = row.begin; k < row.end; ++k)
+    const auto scatter = [&](int k) ORB_INLINE_BODY {
       add_to(y + row.columns[k], product<conjugated>(row.values[k], t));
+    };
+    int k = row.begin;
+    for (; row.end - k >= 4; k += 4) unroll<4>([&](auto n) ORB_INLINE_BODY { scatter(k + n); });
+    for (; k < row.end; ++k) scatter(k);
   }
 }
 

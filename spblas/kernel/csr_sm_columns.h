@@ -19,15 +19,24 @@ void sm_backward(const Csr<T>& a, Range rows, const Columns<T>& c) {
   for_rows<false>(rows, [&](int i) ORB_INLINE_BODY {
     const Split<T> row = split<Side::upper, unit>(a.row(i), i);
     const T factor = unit ? T{} : reciprocal(conjugate_if<conjugated>(*row.diagonal));
-    for_panels<T, by_rows, dot_registers<T, by_rows>>(
-        c.first, c.last, [&](auto panel, int j) ORB_INLINE_BODY {
-          const auto x = panel(c.p, c.ld, j);
-          const auto left = x.at(i) - panel_dot<conjugated>(row.inner, x);
-          if constexpr (unit)
-            x.put(i, left);
-          else
-            x.put(i, decltype(x)::Register::splat(factor) * left);
-        });
+    const auto put_rest = [&]<class P>(const P& x, const auto& sum) ORB_INLINE_BODY {
+      const auto left = x.at(i) - sum;
+      if constexpr (unit)
+        x.put(i, left);
+      else
+        x.put(i, P::Register::splat(factor) * left);
+    };
+    if (by_rows && is_short(row.inner))
+      for_panels<T, by_rows, 4>(c.first, c.last, [&](auto panel, int j) ORB_INLINE_BODY {
+        const auto x = panel(c.p, c.ld, j);
+        put_rest(x, short_panel_dot<conjugated>(row.inner, x));
+      });
+    else
+      for_panels<T, by_rows, dot_registers<T, by_rows>>(c.first, c.last,
+                                                        [&](auto panel, int j) ORB_INLINE_BODY {
+                                                          const auto x = panel(c.p, c.ld, j);
+                                                          put_rest(x, panel_dot<conjugated>(row.inner, x));
+                                                        });
   });
 }
 

@@ -44,6 +44,20 @@ ORB_INLINE typename P::Value panel_dot(const Row<T>& row, const P& x) {
   return sum;
 }
 
+// The same for a row of fewer than eight entries: no sum has two of them, so that adding all of them to one
+// in stored order gives the same bits, and panels may be wide.
+template <class T>
+ORB_INLINE bool is_short(const Row<T>& row) {
+  return row.count() < 8;
+}
+template <bool conjugated, class T, class P>
+ORB_INLINE typename P::Value short_panel_dot(const Row<T>& row, const P& x) {
+  auto sum = P::Value::zero();
+  for (int k = row.begin; k < row.end; ++k)
+    sum += factor_for<P, conjugated>(row.values[k]) * x.at(row.columns[k]);
+  return sum;
+}
+
 // The widest panel of which all sums stay in the registers.
 template <class T, bool by_rows>
 constexpr int dot_registers = by_rows ? 1 : 4 / FourSums<T>::registers;
