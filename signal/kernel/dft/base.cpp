@@ -39,15 +39,19 @@ namespace {
 struct Angle {
   double cosine, sine;
 };
+// Apart, since a compiler that sees both of one angle asks for a function of both, which the kernels' list of
+// run-time functions does not have.
+__attribute__((noinline)) double sine(double x) { return sin(x); }
+__attribute__((noinline)) double cosine(double x) { return cos(x); }
 Angle first_half(int k, int n) {
   const double unit = 6.283185307179586476925286766559 / n;
-  if (8ll * k <= n) return {cos(k * unit), sin(k * unit)};
+  if (8ll * k <= n) return {cosine(k * unit), sine(k * unit)};
   if (8ll * k <= 3ll * n) {
     const double rest = (n - 4ll * k) * 0.25 * unit;  // a quarter less the angle, of either sign
-    return {sin(rest), cos(rest)};
+    return {sine(rest), cosine(rest)};
   }
   const double rest = (n - 2ll * k) * 0.5 * unit;
-  return {-cos(rest), sin(rest)};
+  return {-cosine(rest), sine(rest)};
 }
 
 }  // namespace

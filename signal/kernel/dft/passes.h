@@ -12,24 +12,15 @@
 
 namespace orb::signal {
 
-// Views of the passes, by the register that they move: two arrays, on register boundaries or not ...
-template <class V_, bool aligned>
+// Views of the passes, by the register that they move: two arrays at any address (the blocks of split.h where
+// all counts are multiples of a register's lanes) ...
+template <class V_>
 struct Rows {
   using V = V_;
   using T = typename V::scalar;
   T *re, *im;
-  ORB_INLINE Split<V> load(int x) const {
-    if constexpr (aligned)
-      return {V::load(re + x), V::load(im + x)};
-    else
-      return {V::loadu(re + x), V::loadu(im + x)};
-  }
-  ORB_INLINE void store(int x, Split<V> a) const {
-    if constexpr (aligned)
-      a.re.store(re + x), a.im.store(im + x);
-    else
-      a.re.storeu(re + x), a.im.storeu(im + x);
-  }
+  ORB_INLINE Split<V> load(int x) const { return {V::loadu(re + x), V::loadu(im + x)}; }
+  ORB_INLINE void store(int x, Split<V> a) const { a.re.storeu(re + x), a.im.storeu(im + x); }
   // Number x of each of V::lanes pieces that are `step` numbers long.
   ORB_INLINE Split<V> gather(int x, int step) const {
     if constexpr (V::lanes == 1)
@@ -163,9 +154,8 @@ template <class Factor, class In, class Number>
 ORB_INLINE void load_pieces(Factor factor, In in, int at, Number* x) {
   factor.each([&](auto r) ORB_INLINE_BODY { x[r] = in.gather(at + r, factor.p); });
 }
-// Four pieces of four singles are transposed in registers.
-template <bool aligned>
-ORB_INLINE void load_pieces(FixedFactor<4>, Rows<f32x4, aligned> in, int at, Split<f32x4>* x) {
+// Pieces in blocks are transposed in registers.
+ORB_INLINE void load_pieces(FixedFactor<4>, Blocked<float> in, int at, Split<f32x4>* x) {
   f32x4 re[4], im[4];
   unroll<4>([&](auto r) ORB_INLINE_BODY {
     const auto a = in.load(at + 4 * r);
@@ -174,6 +164,14 @@ ORB_INLINE void load_pieces(FixedFactor<4>, Rows<f32x4, aligned> in, int at, Spl
   f32x4::transpose(re);
   f32x4::transpose(im);
   unroll<4>([&](auto r) ORB_INLINE_BODY { x[r] = {re[r], im[r]}; });
+}
+template <int p>
+ORB_INLINE void load_pieces(FixedFactor<p>, Blocked<double> in, int at, Split<f64x2>* x) {
+  unroll<p / 2>([&](auto h) ORB_INLINE_BODY {
+    const auto a = in.load(at + 2 * h), b = in.load(at + p + 2 * h);
+    x[2 * h] = {f64x2::even(a.re, b.re), f64x2::even(a.im, b.im)};
+    x[2 * h + 1] = {f64x2::odd(a.re, b.re), f64x2::odd(a.im, b.im)};
+  });
 }
 
 // The last pass: count is 1, and registers run over k. `twiddles`: for each register of k (the last may

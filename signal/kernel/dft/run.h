@@ -1,6 +1,8 @@
 // Runs a factor plan over given views: each pass is found by its factor and by what its registers hold.
 #pragma once
 
+#include <utility>
+
 #include "signal/kernel/dft/passes.h"
 #include "signal/kernel/dft/plan.h"
 
@@ -22,33 +24,27 @@ ORB_INLINE void with_factor(const PlanEntry<T>& e, Body body) {
   body(AnyFactor<T>{e.factor, e.direct_table});
 }
 
-// Arrays that passes exchange: the parts of n numbers in the lower or the upper half of the buffer.
-template <class V, bool aligned, class T>
-Rows<V, aligned> work_rows(T* buffer, int n, int half) {
-  T* const re = buffer + 2 * half * plan_part<T>(n);
-  return {re, re + plan_part<T>(n)};
-}
-
-template <class V, bool aligned, bool real, class T>
-__attribute__((noinline)) void middle_pass(const PlanEntry<T>& e, int n, T* buffer, int from) {
-  const auto in = work_rows<V, aligned>(buffer, n, from);
-  const auto out = work_rows<V, aligned>(buffer, n, 1 - from);
+template <class V, bool real, class In, class Out, class T>
+__attribute__((noinline)) void middle_pass(const PlanEntry<T>& e, In in, Out out) {
   with_factor<V, real>(
       e, [&](auto f) { factor_pass<real, false>(f, in, out, e.done, e.remaining, e.twiddles); });
 }
-template <class V, bool real, class Source, class T>
-__attribute__((noinline)) void first_pass(const PlanEntry<T>& e, int n, Source source, T* buffer) {
-  const auto out = work_rows<V, false>(buffer, n, 0);
+template <class V, bool real, class In, class Out, class T>
+__attribute__((noinline)) void first_pass(const PlanEntry<T>& e, In in, Out out) {
   with_factor<V, real>(e, [&](auto f) {
-    factor_pass<real, true>(f, source.template with<V>(), out, 1, e.remaining,
-                            static_cast<const T*>(nullptr));
+    factor_pass<real, true>(f, in, out, 1, e.remaining, static_cast<const T*>(nullptr));
   });
 }
-template <class V, bool real, class Target, class T>
-__attribute__((noinline)) void final_pass(const PlanEntry<T>& e, int n, T* buffer, int from, Target target) {
-  const auto in = work_rows<V, false>(buffer, n, from);
-  with_factor<V, real>(
-      e, [&](auto f) { last_pass<real>(f, in, target.template with<V>(), e.done, e.twiddles); });
+template <class V, bool real, class In, class Out, class T>
+__attribute__((noinline)) void final_pass(const PlanEntry<T>& e, In in, Out out) {
+  with_factor<V, real>(e, [&](auto f) { last_pass<real>(f, in, out, e.done, e.twiddles); });
+}
+// From blocks: the factor is a multiple of the lanes.
+template <class Out, class T>
+__attribute__((noinline)) void final_pass(const PlanEntry<T>& e, Blocked<T> in, Out out) {
+  if constexpr (Blocked<T>::V::lanes == 2)
+    if (e.factor == 2) return last_pass<false>(FixedFactor<2>{}, in, out, e.done, e.twiddles);
+  last_pass<false>(FixedFactor<4>{}, in, out, e.done, e.twiddles);
 }
 
 // Where a plan reads and writes, as views of any register.
@@ -64,7 +60,7 @@ template <class T>
 struct PartsAt {
   T *re, *im;
   template <class V>
-  Rows<V, false> with() const {
+  Rows<V> with() const {
     return {re, im};
   }
 };
@@ -77,28 +73,53 @@ struct RealsAt {
   }
 };
 
+// Whole registers throughout: the last factor, and so every count before it, is a multiple of the lanes.
+template <class T, class Source, class Target>
+void run_in_blocks(const DftSpec<T>& spec, int n, Source source, Target target, T* buffer) {
+  using V = vector_of<T>;
+  Blocked<T> from{buffer}, to{buffer + 2 * plan_part<T>(n)};
+  first_pass<V, false>(spec.plan[0], source.template with<V>(), from);
+  for (int i = 1; i < spec.last_factor; ++i) {
+    middle_pass<V, false>(spec.plan[i], from, to);
+    std::swap(from, to);
+  }
+  final_pass(spec.plan[spec.last_factor], from, target.template with<V>());
+}
+
+// Calls body with the passes' registers: full ones, or single numbers.
+template <class T, class Body>
+ORB_INLINE void with_register(const PlanEntry<T>& e, Body body) {
+  e.lanes > 1 ? body.template operator()<vector_of<T>>() : body.template operator()<Lane<T>>();
+}
+
+template <bool real, class T, class Source, class Target>
+void run_in_rows(const DftSpec<T>& spec, int n, Source source, Target target, T* buffer) {
+  const int part = plan_part<T>(n);
+  T *from = buffer, *to = buffer + 2 * part;
+  const auto rows = [=]<class V>(T* p) { return Rows<V>{p, p + part}; };
+  const auto& first = spec.plan[0];
+  with_register(first, [&]<class V> {
+    first_pass<V, real>(first, source.template with<V>(), rows.template operator()<V>(from));
+  });
+  for (int i = 1; i < spec.last_factor; ++i) {
+    const auto& e = spec.plan[i];
+    with_register(e, [&]<class V> {
+      middle_pass<V, real>(e, rows.template operator()<V>(from), rows.template operator()<V>(to));
+    });
+    std::swap(from, to);
+  }
+  const auto& last = real ? spec.real_last : spec.plan[spec.last_factor];
+  with_register(last, [&]<class V> {
+    final_pass<V, real>(last, rows.template operator()<V>(from), target.template with<V>());
+  });
+}
+
 template <bool real, class T, class Source, class Target>
 void run_passes(const DftSpec<T>& spec, int n, Source source, Target target, T* buffer) {
-  using V = vector_of<T>;
-  using One = Lane<T>;
-  const int last = spec.last_factor;
-  const bool aligned = spec.plan[last].factor % V::lanes == 0;
-  const auto& first = spec.plan[0];
-  first.lanes > 1 ? first_pass<V, real>(first, n, source, buffer)
-                  : first_pass<One, real>(first, n, source, buffer);
-  int from = 0;
-  for (int i = 1; i < last; ++i, from = 1 - from) {
-    const auto& e = spec.plan[i];
-    if (e.lanes == 1)
-      middle_pass<One, false, real>(e, n, buffer, from);
-    else if (!real && aligned)
-      middle_pass<V, true, false>(e, n, buffer, from);
-    else
-      middle_pass<V, false, real>(e, n, buffer, from);
-  }
-  const auto& e = real ? spec.real_last : spec.plan[last];
-  e.lanes > 1 ? final_pass<V, real>(e, n, buffer, from, target)
-              : final_pass<One, real>(e, n, buffer, from, target);
+  if constexpr (!real)
+    if (spec.plan[spec.last_factor].factor % vector_of<T>::lanes == 0)
+      return run_in_blocks(spec, n, source, target, buffer);
+  run_in_rows<real>(spec, n, source, target, buffer);
 }
 
 }  // namespace orb::signal
