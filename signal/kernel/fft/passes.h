@@ -95,7 +95,7 @@ template <Direction d, class In, class T>
 ORB_INLINE void first_level_reversing(In in, Blocked<T> work, int n, const int* reversed) {
   using Z = ComplexVector<complex_of<T>>;
   for (int k = 0; k < n / (4 * Z::lanes); ++k) {
-    const int j = reversed[k] / 2;
+    const int j = reversed[k] >> 1;
     Z x[4] = {in.template numbers<Z>(j), in.template numbers<Z>(j + n / 4), in.template numbers<Z>(j + n / 2),
               in.template numbers<Z>(j + n / 2 + n / 4)};
     first_butterfly<d>(x);
