@@ -7,6 +7,7 @@
 #include "orb/signal.h"
 #include "tests/signal/reference.h"
 #include "tests/support/call.h"
+#include "tests/support/element.h"
 #include "tests/support/guarded.h"
 
 namespace orb::test {
