@@ -24,6 +24,10 @@ Grain product_columns(int, int) {
   return column_grain<T>;
 }
 template <>
+inline Grain product_columns<double>(int, int) {
+  return {4, 16};
+}
+template <>
 inline Grain product_columns<float>(int m, int k) {
   return {4, at_least(16, 150 - m - k)};
 }

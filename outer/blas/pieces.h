@@ -63,11 +63,11 @@ inline constexpr Grain row_grain<float>{16, 160};
 template <>
 inline constexpr Grain row_grain<c64>{4, 64};
 template <class T>
-constexpr Grain column_grain{4, 16};
+constexpr Grain column_grain{4, 32};
 template <>
 inline constexpr Grain column_grain<float>{4, 160};
 template <>
-inline constexpr Grain column_grain<c32>{3, 15};
+inline constexpr Grain column_grain<c32>{3, 33};
 template <>
 inline constexpr Grain column_grain<c64>{3, 66};
 
