@@ -50,5 +50,6 @@ void add_gemm(std::vector<Case>&);
 void add_level2(std::vector<Case>&);
 void add_level3(std::vector<Case>&);
 void add_sparse(std::vector<Case>&);
+void add_signal(std::vector<Case>&);
 
 }  // namespace orb::bench

@@ -22,6 +22,8 @@ constexpr Known known_peers[] = {
     {"reference", "blas/libblas.so.3", nullptr, 1e8},
     {"plain loop", ORB_BENCH_PEERS "/libplain_sparse.so", nullptr, 1e300},
     {"eigen", ORB_BENCH_PEERS "/libeigen_sparse.so", nullptr, 1e300},
+    {"fftw", "libfftw3.so.3", "libfftw3.so.3", 1e300},
+    {"fftwf", "libfftw3f.so.3", "libfftw3f.so.3", 1e300},
 };
 constexpr const char* folders[] = {"/usr/lib/i386-linux-gnu", "/usr/lib32", "/usr/lib"};
 

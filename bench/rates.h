@@ -1,6 +1,7 @@
 // What one call of a routine moves or computes: the formulas behind every rate that is printed.
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <string_view>
 
@@ -26,5 +27,8 @@ constexpr Work vector_traffic(int passes, double n, std::size_t element_bytes) {
 
 // C = alpha A B + beta C: a product and a sum for each term. What alpha and beta cost is not counted.
 constexpr Work product_operations(double m, double n, double k) { return {2 * m * n * k, Unit::gflops}; }
+
+// The customary count of a complex transform of n numbers, whatever the method does.
+inline Work transform_operations(double n) { return {5 * n * std::log2(n), Unit::gflops}; }
 
 }  // namespace orb::bench
