@@ -10,7 +10,21 @@
 #include "orb/blas_level3.h"
 #include "orb/blas_triangular.h"
 #include "orb/sparse_kernels.h"
+#include "orb/dft_commit.h"
+#include "orb/dft_compute.h"
+#include "orb/dft_real.h"
+#include "orb/dfti.h"
 #include "outer/boundary.h"
+
+// Entries with further arguments, called with words for all that may be there: as tags of kernels only, never
+// defined.
+namespace orb::words {
+int DftiCreateDescriptor(DftiRecord** handle, int precision, int domain, int rank, unsigned lengths);
+int DftiSetValue(DftiRecord* handle, int key, unsigned word1, unsigned word2);
+int DftiGetValue(DftiRecord* handle, int key, unsigned pointer);
+int DftiComputeForward(DftiRecord* handle, void* a1, void* a2, void* a3, void* a4);
+int DftiComputeBackward(DftiRecord* handle, void* a1, void* a2, void* a3, void* a4);
+}  // namespace orb::words
 
 namespace orb {
 

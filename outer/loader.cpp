@@ -98,6 +98,14 @@ void check_class(void* library) {
     stop(orb_serv_orb_get_msg(processor_too_old, 1, loaded_path));
 }
 
+// The name as the library has it, without the namespace of a tag.
+constexpr const char* bare(const char* name) {
+  const char* start = name;
+  for (; *name; ++name)
+    if (*name == ':') start = name + 1;
+  return start;
+}
+
 template <auto* entry>
 void resolve(void* library, const char* name) {
   if (void* p = dlsym(library, name))
@@ -108,7 +116,7 @@ void load() {
   make_services_visible();
   void* library = open_library();
   check_class(library);
-#define ORB_KERNEL(name) resolve<name>(library, #name);
+#define ORB_KERNEL(name) resolve<name>(library, bare(#name));
 #include "outer/kernels.def"
 #undef ORB_KERNEL
 }
@@ -119,7 +127,7 @@ template <auto* entry>
 constexpr const char* name_of = nullptr;
 #define ORB_KERNEL(name) \
   template <>            \
-  constexpr const char* name_of<name> = #name;
+  constexpr const char* name_of<name> = bare(#name);
 #include "outer/kernels.def"
 #undef ORB_KERNEL
 

@@ -8,6 +8,7 @@
 
 #include <stddef.h>
 
+#include "orb/dft_record.h"
 #include "orb/types.h"
 
 ORB_BEGIN_DECLS
@@ -94,6 +95,52 @@ void orb_blas_zaxpy(const int* n, const orb_complex_double* alpha, const orb_com
                     const int* incx, orb_complex_double* y, const int* incy);
 float orb_blas_sdot(const int* n, const float* x, const int* incx, const float* y, const int* incy);
 double orb_blas_ddot(const int* n, const double* x, const int* incx, const double* y, const int* incy);
+/** @} */
+
+/** @{ */
+/** Commit of a descriptor of the kind (see dft_commit.h): how, and with how many threads. */
+int orb_dft_commit_descriptor_s_c2c_1d_omp(DftiRecord** handle);
+int orb_dft_commit_descriptor_s_c2c_md_omp(DftiRecord** handle);
+int orb_dft_commit_descriptor_s_r2c_1d_omp(DftiRecord** handle);
+int orb_dft_commit_descriptor_s_r2c_md_omp(DftiRecord** handle);
+int orb_dft_commit_descriptor_d_c2c_1d_omp(DftiRecord** handle);
+int orb_dft_commit_descriptor_d_c2c_md_omp(DftiRecord** handle);
+int orb_dft_commit_descriptor_d_r2c_1d_omp(DftiRecord** handle);
+int orb_dft_commit_descriptor_d_r2c_md_omp(DftiRecord** handle);
+/** @} */
+
+/** @{ */
+/** A whole batch through a committed descriptor with more than one thread. `head` points to a word that holds
+ *  the handle; offsets are already added to the data. Letters: elements of the data, s float, d double, c and
+ *  z complex; two of them where input and output differ; without `out` in place. */
+int orb_dft_compute_forward_c_par(DftiRecord* const* head, orb_complex_float* data);
+int orb_dft_compute_forward_c_out_par(DftiRecord* const* head, const orb_complex_float* in,
+                                      orb_complex_float* out);
+int orb_dft_compute_forward_z_par(DftiRecord* const* head, orb_complex_double* data);
+int orb_dft_compute_forward_z_out_par(DftiRecord* const* head, const orb_complex_double* in,
+                                      orb_complex_double* out);
+int orb_dft_compute_forward_s_par(DftiRecord* const* head, float* data);
+int orb_dft_compute_forward_s_out_par(DftiRecord* const* head, const float* in, float* out);
+int orb_dft_compute_forward_d_par(DftiRecord* const* head, double* data);
+int orb_dft_compute_forward_d_out_par(DftiRecord* const* head, const double* in, double* out);
+int orb_dft_compute_forward_sc_par(DftiRecord* const* head, float* data);
+int orb_dft_compute_forward_sc_out_par(DftiRecord* const* head, const float* in, orb_complex_float* out);
+int orb_dft_compute_forward_dz_par(DftiRecord* const* head, double* data);
+int orb_dft_compute_forward_dz_out_par(DftiRecord* const* head, const double* in, orb_complex_double* out);
+int orb_dft_compute_backward_c_par(DftiRecord* const* head, orb_complex_float* data);
+int orb_dft_compute_backward_c_out_par(DftiRecord* const* head, const orb_complex_float* in,
+                                       orb_complex_float* out);
+int orb_dft_compute_backward_z_par(DftiRecord* const* head, orb_complex_double* data);
+int orb_dft_compute_backward_z_out_par(DftiRecord* const* head, const orb_complex_double* in,
+                                       orb_complex_double* out);
+int orb_dft_compute_backward_s_par(DftiRecord* const* head, float* data);
+int orb_dft_compute_backward_s_out_par(DftiRecord* const* head, const float* in, float* out);
+int orb_dft_compute_backward_d_par(DftiRecord* const* head, double* data);
+int orb_dft_compute_backward_d_out_par(DftiRecord* const* head, const double* in, double* out);
+int orb_dft_compute_backward_cs_par(DftiRecord* const* head, orb_complex_float* data);
+int orb_dft_compute_backward_cs_out_par(DftiRecord* const* head, const orb_complex_float* in, float* out);
+int orb_dft_compute_backward_zd_par(DftiRecord* const* head, orb_complex_double* data);
+int orb_dft_compute_backward_zd_out_par(DftiRecord* const* head, const orb_complex_double* in, double* out);
 /** @} */
 
 ORB_END_DECLS

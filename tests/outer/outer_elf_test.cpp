@@ -30,6 +30,7 @@ TEST_F(Outer, ExportsWhatItsHeadersDeclare) {
     add_declared(declared, header, "\\b(cblas_\\w+)\\(");
   add_declared(declared, "services.h", "\\b(orb_\\w+)\\(");
   add_declared(declared, "lapack.h", "\\b(orb_\\w+)\\(");
+  add_declared(declared, "dfti.h", "\\b(Dfti\\w+)\\(");
   add_declared(declared, "orb.h", "\\b(orb_\\w+)\\(");
   add_declared(declared, "sparse.h", "\\b(orb_\\w+)\\(");
   EXPECT_EQ(elf.exported(), declared);
