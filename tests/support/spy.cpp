@@ -179,11 +179,17 @@ int orb_serv_lsame(const char* a, const char* b, int, int) {
 }
 int orb_serv_cpu_detect(void) { return spy().cpu; }
 int orb_serv_l2cache(void) { return spy().l2cache; }
-void orb_serv_getversionstring(char* buffer, int length) { memset(buffer, ' ', size_t(length)); }
-void orb_serv_getversionstring_c(char* buffer, int) { *buffer = 0; }
+void orb_serv_getversionstring(char* buffer, int length) {
+  memset(buffer, ' ', size_t(length));
+  memcpy(buffer, "spy 1.0", 7);
+}
+void orb_serv_getversionstring_c(char* buffer, int) { strcpy(buffer, "spy 1.0"); }
 void orb_serv_lock(void) { ++spy().lock_depth; }
 void orb_serv_unlock(void) { --spy().lock_depth; }
-const char* orb_serv_orb_get_msg(int, int, ...) { return ""; }
+const char* orb_serv_orb_get_msg(int number, int, ...) {
+  spy().message = number;
+  return "a message";
+}
 void orb_serv_orb_print(int, int, int, ...) {}
 
 #define SPY_GEMV(name, T)                                                                              \
