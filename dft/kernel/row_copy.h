@@ -25,26 +25,35 @@ ORB_INLINE void transpose_square(const c64* from, int from_step, c64* to, int to
   move(from + from_step + 1, to + to_step + 1);
 }
 
+// Steps of the columns that make a tile: a cache line of each row, if the block is as wide.
+template <int b, class C>
+constexpr int steps_at_once = b < 64 / int(sizeof(C)) ? b : 64 / int(sizeof(C));
+
 template <int b, class C>
 void columns_to_rows(const C* source, int stride, int count, C* rows, int distance) {
+  constexpr int steps = steps_at_once<b, C>;
   int i = 0;
   if constexpr (b > 1)
-    for (; count - i >= b; i += b)
+    for (; count - i >= steps; i += steps)
       for (int c = 0; c < b; c += 2)
-        for (int k = i; k < i + b; k += 2)
-          transpose_square(source + k * stride + c, stride, rows + c * distance + k, distance);
+        unroll<steps / 2>([&](auto k) {
+          transpose_square(source + (i + 2 * k) * stride + c, stride, rows + c * distance + i + 2 * k,
+                           distance);
+        });
   for (; i < count; ++i)
     for (int c = 0; c < b; ++c) rows[c * distance + i] = source[i * stride + c];
 }
 
 template <int b, class C>
 void rows_to_columns(const C* rows, int distance, int stride, int count, C* target) {
+  constexpr int steps = steps_at_once<b, C>;
   int i = 0;
   if constexpr (b > 1)
-    for (; count - i >= b; i += b)
-      for (int k = i; k < i + b; k += 2)
-        for (int c = 0; c < b; c += 2)
-          transpose_square(rows + c * distance + k, distance, target + k * stride + c, stride);
+    for (; count - i >= steps; i += steps)
+      for (int k = i; k < i + steps; k += 2)
+        unroll<b / 2>([&](auto c) {
+          transpose_square(rows + 2 * c * distance + k, distance, target + k * stride + 2 * c, stride);
+        });
   for (; i < count; ++i)
     for (int c = 0; c < b; ++c) target[i * stride + c] = rows[c * distance + i];
 }

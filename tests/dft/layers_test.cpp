@@ -82,14 +82,14 @@ std::vector<int> blocks_of(int bytes) {
 TEST_F(Layers, BlocksOfColumnsAndTheirScratch) {
   const struct {
     int length, count;
-    std::vector<int> single, wide;
+    std::vector<int> blocks;
     int columns;  // that scratch is asked for
-  } cases[] = {{8, 5, {4, 1}, {4, 1}, 5},
-               {8, 16, {8, 8}, {8, 8}, 8},
-               {33, 64, {16, 16, 16, 16}, {8, 8, 8, 8, 8, 8, 8, 8}, 16},
-               {32, 64, {8, 8, 8, 8, 8, 8, 8, 8}, {8, 8, 8, 8, 8, 8, 8, 8}, 8},
-               {33, 63, {8, 8, 8, 8, 8, 8, 8, 4, 2, 1}, {8, 8, 8, 8, 8, 8, 8, 4, 2, 1}, 8},
-               {40, 79, {16, 16, 16, 16, 8, 4, 2, 1}, {8, 8, 8, 8, 8, 8, 8, 8, 8, 4, 2, 1}, 16}};
+  } cases[] = {{8, 5, {4, 1}, 5},
+               {8, 16, {8, 8}, 8},
+               {33, 64, {16, 16, 16, 16}, 16},
+               {32, 64, {8, 8, 8, 8, 8, 8, 8, 8}, 8},
+               {33, 63, {8, 8, 8, 8, 8, 8, 8, 4, 2, 1}, 8},
+               {40, 79, {16, 16, 16, 16, 8, 4, 2, 1}, 16}};
   for (const auto& c : cases) {
     Handle s(VAL_SINGLE, {c.length}), d(VAL_DOUBLE, {c.length});
     const int stride = c.count + 2;
@@ -106,7 +106,7 @@ TEST_F(Layers, BlocksOfColumnsAndTheirScratch) {
                      : call(orb_dft_xcdft_mult, static_cast<DftiRecord*>(s),
                             reinterpret_cast<c32*>(data.data()), noting_line, c.count, no_work),
                 0);
-      EXPECT_EQ(blocks_of(c.length * bytes), wide ? c.wide : c.single) << c.length << " by " << c.count;
+      EXPECT_EQ(blocks_of(c.length * bytes), c.blocks) << c.length << " by " << c.count;
       EXPECT_EQ(spy().scratch, (std::vector<MemoryRequest>{{c.length * c.columns * bytes + 1024, 64}}));
     }
   }

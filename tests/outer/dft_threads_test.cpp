@@ -25,18 +25,18 @@ const Setup setups[] = {
     {VAL_DOUBLE, VAL_COMPLEX, {40}, 400, VAL_INPLACE, {0, 400}, 1},
     {VAL_SINGLE, VAL_COMPLEX, {64}, 300, VAL_INPLACE, {}, 0},  // all on the same data: an order of its own
     {VAL_SINGLE, VAL_COMPLEX, {64}, 300, VAL_INPLACE, {}, 20},
-    {VAL_DOUBLE, VAL_COMPLEX, {130, 150}},
-    {VAL_SINGLE, VAL_COMPLEX, {200, 117}, 1, VAL_NOT_INPLACE},
-    {VAL_DOUBLE, VAL_COMPLEX, {40, 30, 20}},
-    {VAL_SINGLE, VAL_COMPLEX, {40, 30, 20}, 1, VAL_INPLACE, {3, 2, 90, 2800}},
-    {VAL_DOUBLE, VAL_COMPLEX, {8, 9, 10, 25}, 2, VAL_NOT_INPLACE, {}, 18000, 18000},
+    {VAL_DOUBLE, VAL_COMPLEX, {260, 300}},
+    {VAL_SINGLE, VAL_COMPLEX, {300, 227}, 1, VAL_NOT_INPLACE},
+    {VAL_DOUBLE, VAL_COMPLEX, {60, 40, 30}},
+    {VAL_SINGLE, VAL_COMPLEX, {40, 45, 40}, 1, VAL_INPLACE, {3, 4050, 90, 2}},
+    {VAL_DOUBLE, VAL_COMPLEX, {8, 9, 10, 55}, 2, VAL_NOT_INPLACE, {}, 39600, 39600},
     {VAL_SINGLE, VAL_COMPLEX, {100, 100}, 9, VAL_INPLACE, {}, 10000, 0, VAL_STORAGE_40, VAL_OUT_OF_ORDER},
     {VAL_SINGLE, VAL_REAL, {500}, 301, VAL_INPLACE, {}, 502},
     {VAL_DOUBLE, VAL_REAL, {77}, 500, VAL_NOT_INPLACE, {}, 77, 78},
     {VAL_DOUBLE, VAL_REAL, {64}, 500, VAL_INPLACE, {}, 66, 33, VAL_COMPLEX_COMPLEX},
     {VAL_SINGLE, VAL_REAL, {100}, 500, VAL_NOT_INPLACE, {}, 100, 51, VAL_COMPLEX_COMPLEX},
 };
-constexpr size_t room = 1 << 18;  // reals, enough for each of them
+constexpr size_t room = 1 << 19;  // reals, enough for each of them
 
 struct Result {
   int threads;
