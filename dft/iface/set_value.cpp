@@ -66,7 +66,7 @@ int set_scale(DftiRecord* head, int key, T value) {
 
 // Of the C entry: nine characters and an end.
 int set_name(DftiRecord* head, const char* text) {
-  strncpy(head->name, text, name_length);
+  strncpy(head->name, text, name_length - 1);
   head->name[name_length - 1] = 0;
   return STATUS_OK;
 }

@@ -10,14 +10,13 @@ struct Codelets {
   DftiCompute forward_apart, backward_apart, forward_in_place, backward_in_place;
 };
 
-// Callers' stacks may not be aligned, and these routines stand in the record as entries of their own.
 template <class C, int n, bool forward>
-__attribute__((force_align_arg_pointer)) int apart(DftiRecord*, void* in, void* out, void*, void*) {
+ORB_ENTRY int apart(DftiRecord*, void* in, void* out, void*, void*) {
   codelet<n, forward>(static_cast<const C*>(in), static_cast<C*>(out));
   return STATUS_OK;
 }
 template <class C, int n, bool forward>
-__attribute__((force_align_arg_pointer)) int in_place(DftiRecord*, void* data, void*, void*, void*) {
+ORB_ENTRY int in_place(DftiRecord*, void* data, void*, void*, void*) {
   codelet<n, forward>(static_cast<const C*>(data), static_cast<C*>(data));
   return STATUS_OK;
 }
@@ -42,13 +41,13 @@ const Codelets* find(const Codelets* table, int length) {
 }
 
 template <class T, const Codelets* table>
-__attribute__((force_align_arg_pointer)) double applicable(const DftiBreakdown*, DftiRecord* head) {
+ORB_ENTRY double applicable(const DftiBreakdown*, DftiRecord* head) {
   return is_plain_line<T>(head) && scale_of<T, true>(head) == 1 && scale_of<T, false>(head) == 1 &&
          find(table, head->length);
 }
 
 template <const Codelets* table>
-int commit(const DftiBreakdown* self, DftiRecord* head) {
+ORB_ENTRY int commit(const DftiBreakdown* self, DftiRecord* head) {
   take_over(self, head);
   const Codelets* c = find(table, head->length);
   if (!c) return give_up(head, DFT_GAVE_UP);

@@ -37,7 +37,7 @@ struct Kernels<double> {
 };
 
 template <class T, bool forward, bool in_place>
-__attribute__((force_align_arg_pointer)) int compute(DftiRecord* head, void* a1, void* a2, void*, void*) {
+ORB_ENTRY int compute(DftiRecord* head, void* a1, void* a2, void*, void*) {
   using C = complex_of<T>;
   alignas(16) char work[stack_bytes];
   constexpr auto kernel = forward ? Kernels<T>::forward : Kernels<T>::backward;
@@ -46,13 +46,13 @@ __attribute__((force_align_arg_pointer)) int compute(DftiRecord* head, void* a1,
 }
 
 template <class T>
-__attribute__((force_align_arg_pointer)) double applicable(const DftiBreakdown*, DftiRecord* head) {
+ORB_ENTRY double applicable(const DftiBreakdown*, DftiRecord* head) {
   return is_plain_line<T>(head) && head->length >= 1 && head->length <= longest &&
          orb_dft_vsp_can_scale(head, nullptr);
 }
 
 template <class T>
-int release(const DftiBreakdown*, DftiRecord* head) {
+ORB_ENTRY int release(const DftiBreakdown*, DftiRecord* head) {
   State* state = state_of(head);
   if (!state) return STATUS_OK;
   const VspStatus status = state->spec ? Kernels<T>::free(state->spec) : VspStatus(VSP_OK);
@@ -76,7 +76,7 @@ VspStatus make_tables(State& state, int length, int flag, int* bytes) {
 }
 
 template <class T>
-int commit(const DftiBreakdown* self, DftiRecord* head) {
+ORB_ENTRY int commit(const DftiBreakdown* self, DftiRecord* head) {
   take_over(self, head);
   if (!head->backend_state) {
     head->backend_state = orb_serv_orb_malloc(int(sizeof(State)), 16);

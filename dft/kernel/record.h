@@ -4,6 +4,10 @@
 #include "orb/dfti.h"
 #include "serv/kernel/boundary.h"
 
+// Routines that stand in a record or in a breakdown are entries of their own: whoever calls them may keep the
+// stack only 4-byte aligned.
+#define ORB_ENTRY __attribute__((force_align_arg_pointer))
+
 namespace orb::dft {
 
 inline bool is_descriptor(const DftiRecord* head) { return head && head->magic == DFT_MAGIC; }

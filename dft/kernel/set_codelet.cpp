@@ -1,5 +1,6 @@
 // Straight code for short real lines, chosen by length.
 #include "dft/kernel/real_codelet.h"
+#include "dft/kernel/record.h"
 #include "orb/dft_real.h"
 
 namespace orb::dft {
@@ -11,7 +12,7 @@ int format_of(const DftiRecord* r) {
 }
 
 template <class T, int n, bool forward>
-__attribute__((force_align_arg_pointer)) int line(const void* in, void* out, DftiRecord* r, void*) {
+ORB_ENTRY int line(const void* in, void* out, DftiRecord* r, void*) {
   const T factor = scale_of<T, forward>(r);
   if constexpr (forward)
     real_forward<n>(static_cast<const T*>(in), static_cast<T*>(out), format_of(r), factor);
