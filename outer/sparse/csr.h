@@ -22,8 +22,8 @@ struct CsrArrays {
   int entries(int m) const { return m > 0 ? row_end[m - 1] - row_begin[0] : 0; }
 };
 
-// Products and sums of stored entries below which a second thread costs more than it brings: some 30
-// microseconds.
+// Products with stored entries that a thread should have at least, about 15 microseconds of work: less costs
+// more to hand out than it brings.
 inline constexpr double least_work = 20000;
 
 // How many pieces for that much work, no more than `most`.

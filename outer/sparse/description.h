@@ -25,7 +25,7 @@ struct Choice {
   spblas::Shape shape;
   bool negates;
 
-  // Is row i of op(A) more than row i of A?
+  // Do rows of A go out to the result, instead of making an element of it each?
   bool transposes() const { return (shape.kind == 'g' || shape.kind == 't') && shape.transposes(); }
   bool mirrors() const { return shape.kind == 's' || shape.kind == 'h' || shape.kind == 'a'; }
 };
