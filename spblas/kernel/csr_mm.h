@@ -56,13 +56,13 @@ ORB_INLINE void for_steps(F f) {
   } else if constexpr (s.kind == 'g') {
     f(General<conjugates>{});
   } else if constexpr (s.kind == 't' && s.transposes()) {
-    f(TriangleTransposed<conjugates, s.side()>{s.unit()});
+    f(TriangleTransposed<conjugates>{Triangle(s.side()), s.unit()});
   } else {
     f(WholeRow<s.conjugates_entry()>{});
     if constexpr (s.kind == 't')
-      f(Correction<conjugates, s.side()>{s.unit()});
+      f(Correction<conjugates>{Triangle(s.side()), s.unit()});
     else
-      f(MirrorImages<mirror_of<s>, s.side()>{s.unit()});
+      f(MirrorImages<mirror_of<s>>{Triangle(s.side()), s.unit()});
   }
 }
 
