@@ -64,6 +64,23 @@ constexpr Root root_of_unity(int k, int p) {
   return {series_cosine(x), series_sine(x)};
 }
 
+// cos and sin of 2 pi k / p, k below p, as constants of the element type.
+template <class T, int p>
+struct Roots {
+  T re[p], im[p];
+};
+template <class T, int p>
+constexpr Roots<T, p> make_roots() {
+  Roots<T, p> roots{};
+  for (int k = 0; k < p; ++k) {
+    const Root r = root_of_unity(k, p);
+    roots.re[k] = T(r.re), roots.im[k] = T(r.im);
+  }
+  return roots;
+}
+template <class T, int p>
+inline constexpr Roots<T, p> roots_of = make_roots<T, p>();
+
 template <class Number>
 ORB_INLINE void butterfly(Number (&x)[2]) {
   const Number a = x[0];
@@ -77,7 +94,7 @@ ORB_INLINE void butterfly(Number (&x)[4]) {
   turn_apart(difference02, difference13, x[1], x[3]);
 }
 template <class Number, int p>
-requires(p % 2 == 1) ORB_INLINE void butterfly(Number (&x)[p]) {
+requires(p % 2 == 1) ORB_INLINE void odd_butterfly(Number (&x)[p]) {
   using V = register_of<Number>;
   constexpr int half = p / 2;
   const Number first = x[0];
@@ -87,24 +104,30 @@ requires(p % 2 == 1) ORB_INLINE void butterfly(Number (&x)[p]) {
     x[0] = x[0] + sum[j];
   });
   unroll<half>([&](auto k) ORB_INLINE_BODY {
-    using T = typename V::scalar;
-    Number a = first, b = by(V::splat(T(root_of_unity(k + 1, p).im)), difference[0]);
-    a = a + by(V::splat(T(root_of_unity(k + 1, p).re)), sum[0]);
+    constexpr auto& roots = roots_of<typename V::scalar, p>;
+    Number a = first + by(V::splat(roots.re[k + 1]), sum[0]);
+    Number b = by(V::splat(roots.im[k + 1]), difference[0]);
     unroll<half - 1>([&](auto j) ORB_INLINE_BODY {
-      constexpr T c = T(root_of_unity((j + 2) * (k + 1), p).re),
-                  s = T(root_of_unity((j + 2) * (k + 1), p).im);
-      a = a + by(V::splat(c), sum[j + 1]);
-      b = b + by(V::splat(s), difference[j + 1]);
+      constexpr int place = (j + 2) * (k + 1) % p;
+      a = a + by(V::splat(roots.re[place]), sum[j + 1]);
+      b = b + by(V::splat(roots.im[place]), difference[j + 1]);
     });
     turn_apart(a, b, x[k + 1], x[p - 1 - k]);
   });
 }
 
+// Up to five numbers are transformed where they are; more do not fit the registers anyway, so their code
+// stands once for all passes.
+template <class Number, int p>
+requires(p % 2 == 1 && p <= 5) ORB_INLINE void butterfly(Number (&x)[p]) { odd_butterfly(x); }
+template <class Number, int p>
+requires(p % 2 == 1 && p > 5) __attribute__((noinline)) void butterfly(Number (&x)[p]) { odd_butterfly(x); }
+
 constexpr int most_factor = 150;
 
 // Any odd p up to most_factor. The table holds cos and sin of 2 pi k / p, a register each, for k below p.
 template <class Number, class T>
-ORB_INLINE void any_butterfly(Number* x, int p, const T* table) {
+__attribute__((noinline)) void any_butterfly(Number* x, int p, const T* table) {
   using V = register_of<Number>;
   const int half = p / 2;
   Number sum[most_factor / 2], difference[most_factor / 2];

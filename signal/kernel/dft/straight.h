@@ -13,7 +13,7 @@ template <int k, int n, class C>
 ORB_INLINE ComplexLane<C> turned_by(ComplexLane<C> z) {
   using V = typename ComplexLane<C>::Register;
   using T = typename V::scalar;
-  constexpr T cosine = T(root_of_unity(k, n).re), sine = T(root_of_unity(k, n).im);
+  constexpr T cosine = roots_of<T, n>.re[k], sine = roots_of<T, n>.im[k];
   return by(V::splat(cosine), z) + by(V::splat(sine), rotated<forward>(z));
 }
 
