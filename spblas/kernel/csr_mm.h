@@ -16,10 +16,11 @@ struct Dense {
 
 // One step of the work on all of a range of rows and of columns. By rows, a row of the matrix meets all dense
 // columns before the next, and lines of B and C are used whole; by columns, a panel of columns stays while
-// the matrix passes.
+// the matrix passes. Never inlined: an entry has a frame of its own, and its loops would find fewer
+// registers.
 template <bool by_rows, class Step, class T>
-void sweep(Step step, const Csr<T>& a, Range rows, int first, int last, T alpha, Dense<const T> b,
-           Dense<T> c) {
+__attribute__((noinline)) void sweep(Step step, const Csr<T>& a, Range rows, int first, int last, T alpha,
+                                     Dense<const T> b, Dense<T> c) {
   const auto panels = [&](auto registers, auto body) ORB_INLINE_BODY {
     for_panels<T, by_rows, registers>(first, last, [&](auto panel, int j) ORB_INLINE_BODY {
       body(panel(b.p, b.ld, j), panel(c.p, c.ld, j));
