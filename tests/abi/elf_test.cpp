@@ -20,6 +20,12 @@ const char* const families[] = {
     "blas-level3",        //
     "blas-trmm",          //
     "blas-trsm",          //
+    "dft-descriptor",
+    "dft-commit",
+    "dft-commit.optional",
+    "dft-complex",
+    "dft-complex.optional",
+    "dft-real",
     "signal-any-length",
     "signal-any-length.optional",
     "signal-fft",
