@@ -1,6 +1,6 @@
 // Cases of the matrix-vector routines, n by n, unit strides, lower triangles.
-#include "bench/case.h"
 #include "bench/matrix.h"
+#include "bench/matrix_case.h"
 
 namespace orb::bench {
 namespace {
@@ -124,48 +124,9 @@ struct Triangular {
 };
 
 template <class Routine, class T>
-class MatrixVectorExperiment : public Experiment {
- public:
-  explicit MatrixVectorExperiment(int n) : operands_(n) {}
-  bool offered_by(const Library& library) const override { return entry(library); }
-  void time(const Library& library, benchmark::State& state) override {
-    auto* routine = entry(library);
-    operands_.fill(1.0 / (1 << 20));
-    for (auto _ : state) Routine::template call<T>(routine, operands_);
-  }
-  double check(const Library& library) override {
-    Operands<T> before(operands_.n);
-    before.fill(1);
-    operands_.fill(1);
-    Routine::template call<T>(entry(library), operands_);
-    return Routine::template error<T>(before, operands_);
-  }
-
- private:
-  static auto* entry(const Library& library) {
-    return library.find<typename Routine::template Entry<T>>(std::string(Routine::names[Scalar<T>::index]) +
-                                                             '_');
-  }
-  Operands<T> operands_;
-};
-
-template <class Routine, class T>
 void add_routine(std::vector<Case>& cases) {
-  for (int n : {10, 50, 200, 1000}) {
-    const double elements = double(n) * n;
-    cases.push_back({.group = "level 2, " + letter_of<T>(),
-                     .family = "level-2",
-                     .routine = std::string(Routine::routine) + (Routine::option == 'T' ? " T" : ""),
-                     .type = letter_of<T>(),
-                     .entry = Routine::names[Scalar<T>::index],
-                     .shape = std::string(1, Routine::option) + " n " + std::to_string(n),
-                     .alignment = "16",
-                     .work = {Routine::operations * elements * (Scalar<T>::is_complex ? 4 : 1), Unit::gflops},
-                     .footprint = elements * sizeof(T),
-                     .quick = n == 200,
-                     .abscissa = n,
-                     .set_up = [n] { return std::make_unique<MatrixVectorExperiment<Routine, T>>(n); }});
-  }
+  const std::string option(1, Routine::option);
+  add_matrix_cases<Routine, Operands, T>(cases, {2, 1}, option + ' ', option == "T" ? " T" : "");
 }
 
 template <class T>

@@ -1,7 +1,7 @@
 // Cases of the matrix-matrix routines but for the real general product (gemm.cpp): n by n, lower triangles. A
 // result R is checked by R v for a vector v of ones, against the same in extended precision.
-#include "bench/case.h"
 #include "bench/matrix.h"
+#include "bench/matrix_case.h"
 
 namespace orb::bench {
 namespace {
@@ -135,56 +135,11 @@ struct Triangular {
   }
 };
 
-template <class Routine>
-std::string options_of() {
-  if constexpr (requires { Routine::option; }) return std::string(1, Routine::option) + ' ';
-  return "";
-}
-
-template <class Routine, class T>
-class MatrixExperiment : public Experiment {
- public:
-  explicit MatrixExperiment(int n) : operands_(n) {}
-  bool offered_by(const Library& library) const override { return entry(library); }
-  void time(const Library& library, benchmark::State& state) override {
-    auto* routine = entry(library);
-    operands_.fill(1.0 / (1 << 20));
-    for (auto _ : state) Routine::template call<T>(routine, operands_);
-  }
-  double check(const Library& library) override {
-    Operands<T> before(operands_.n);
-    before.fill(1);
-    operands_.fill(1);
-    Routine::template call<T>(entry(library), operands_);
-    return Routine::template error<T>(before, operands_);
-  }
-
- private:
-  static auto* entry(const Library& library) {
-    return library.find<typename Routine::template Entry<T>>(std::string(Routine::names[Scalar<T>::index]) +
-                                                             '_');
-  }
-  Operands<T> operands_;
-};
-
 template <class Routine, class T>
 void add_routine(std::vector<Case>& cases) {
-  for (int n : {10, 50, 200, 1000}) {
-    const double elements = double(n) * n;
-    cases.push_back(
-        {.group = "level 3, " + letter_of<T>(),
-         .family = "level-3",
-         .routine = std::string(Routine::routine) + (options_of<Routine>() == "R " ? " R" : ""),
-         .type = letter_of<T>(),
-         .entry = Routine::names[Scalar<T>::index],
-         .shape = options_of<Routine>() + "n " + std::to_string(n),
-         .alignment = "16",
-         .work = {Routine::operations * elements * n * (Scalar<T>::is_complex ? 4 : 1), Unit::gflops},
-         .footprint = 3 * elements * sizeof(T),
-         .quick = n == 200,
-         .abscissa = n,
-         .set_up = [n] { return std::make_unique<MatrixExperiment<Routine, T>>(n); }});
-  }
+  std::string option;
+  if constexpr (requires { Routine::option; }) option = std::string(1, Routine::option) + ' ';
+  add_matrix_cases<Routine, Operands, T>(cases, {3, 3}, option, option == "R " ? " R" : "");
 }
 
 template <class T>
