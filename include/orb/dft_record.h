@@ -11,7 +11,9 @@
 
 ORB_BEGIN_DECLS
 
+/** One dimension of a descriptor; the first one is its handle. */
 typedef struct DftiRecord DftiRecord;
+/** A way to take a whole descriptor. */
 typedef struct DftiBreakdown DftiBreakdown;
 struct VspsDFTSpec;
 
@@ -35,6 +37,7 @@ struct DftiBreakdown {
   int (*myfree)(const DftiBreakdown* self, DftiRecord* head);        /**< releases backend_state */
 };
 
+/** The record of one dimension, fastest first, chained by `next`. */
 struct DftiRecord {
   DftiCompute compute_forward;          /**< null when not committed */
   DftiCompute compute_backward;         /**< null when not committed */

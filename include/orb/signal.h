@@ -57,10 +57,12 @@ enum {
   VSP_FFT_NODIV_BY_ANY = 8  /**< neither divides */
 };
 
+/** @{ */
 /** Specification records. Their first word tells the kind (a number of each kind's own, 0 when freed), the
  *  second the order or the length; the rest is private. */
 typedef struct VspsFFTSpec VspsFFTSpec;
 typedef struct VspsDFTSpec VspsDFTSpec;
+/** @} */
 
 /* Memory */
 

@@ -99,6 +99,7 @@ ORB_BEGIN_DECLS
             const ORB_CSR_ELEMENT* values, const int* columns, const int* row_begin, const int* row_end, \
             ORB_CSR_ELEMENT* c, const int* ldc);
 
+/** @cond the lists, type by type */
 #define ORB_CSR_ELEMENT float
 #include "orb/sparse_kernels/csr_mm_s.def"
 #include "orb/sparse_kernels/csr_mv_s.def"
@@ -123,6 +124,7 @@ ORB_BEGIN_DECLS
 #include "orb/sparse_kernels/csr_sm_z.def"
 #include "orb/sparse_kernels/csr_sv_z.def"
 #undef ORB_CSR_ELEMENT
+/** @endcond */
 
 #undef ORB_CSR_MV_PAR
 #undef ORB_CSR_MV_SEQ
