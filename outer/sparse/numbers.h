@@ -30,6 +30,7 @@ Lines<T> lines_of(T* p, int ld, bool by_rows, int rows, int columns) {
 // y *= beta; a beta of zero overwrites what is no number too.
 template <class T>
 void scale(const Lines<T>& y, T beta) {
+  if (y.length == 0) return;  // there may be no array then
   if (is(beta, 1)) return;
   for (int i = 0; i < y.count; ++i) {
     T* line = y.p + i * y.ld;
@@ -43,6 +44,7 @@ void scale(const Lines<T>& y, T beta) {
 // y = alpha x, in place too.
 template <class T>
 void copy_scaled(const Lines<const T>& x, const Lines<T>& y, T alpha) {
+  if (y.length == 0) return;  // there may be no arrays then
   for (int i = 0; i < y.count; ++i) {
     const T* from = x.p + i * x.ld;
     T* to = y.p + i * y.ld;
