@@ -24,6 +24,7 @@ struct Chapter {
 void dense(Tour&);
 void sparse(Tour&);
 void regression(Tour&);
+void spectrum(Tour&);
 
 // Which libraries were loaded, for which class of processor, and how many threads they may use.
 void introduce(Report&);

@@ -15,6 +15,7 @@ using namespace orb::tour;
 constexpr Chapter chapters[] = {
     {1, "Dense matrices: a volcano in a few numbers", dense},
     {2, "Regression: what conditioning costs", regression},
+    {3, "Spectrum: the cycle of the sun", spectrum},
     {sparse_chapter, "Sparse matrices: a structure under load", sparse},
 };
 
