@@ -119,7 +119,7 @@ TYPED_TEST(Level3, SymmetricProducts) {
   const int m = 7, n = 5;
   for (char side : {'L', 'R'})
     for (char uplo : {'U', 'L'}) {
-      const auto check = [&](auto names, bool hermitian) {
+      const auto check = [&](auto names, bool adjoint) {
         each_face(names.first, names.second, [&](auto run, bool by_rows) {
           SCOPED_TRACE(testing::Message() << side << uplo << (by_rows ? " by rows" : " by columns"));
           const int order = side == 'L' ? m : n;
@@ -129,8 +129,7 @@ TYPED_TEST(Level3, SymmetricProducts) {
           Stored<T> b = operand<T>('N', m, n, by_rows, 2), c = operand<T>('N', m, n, by_rows, 3);
           const auto sum = [&](int i, int j) {
             return sum_of(order, [&](int l) {
-              return side == 'L' ? a.full(i, l, hermitian) * b.at(l, j)
-                                 : b.at(i, l) * a.full(l, j, hermitian);
+              return side == 'L' ? a.full(i, l, adjoint) * b.at(l, j) : b.at(i, l) * a.full(l, j, adjoint);
             });
           };
           const auto expected = this->model(c, wide(this->alpha), sum, wide(this->beta));
@@ -151,28 +150,28 @@ TYPED_TEST(Level3, RankKUpdates) {
   for (char uplo : {'U', 'L'})
     for (char trans : {'N', 'T', 'C'}) {
       // One product for syrk, two for syr2k.
-      const auto check = [&](auto names, bool hermitian, auto factor, auto scale, auto two) {
-        if (is_complex<T> && trans == (hermitian ? 'T' : 'C')) return;
+      const auto check = [&](auto names, bool adjoint, auto factor, auto scale, auto two) {
+        if (is_complex<T> && trans == (adjoint ? 'T' : 'C')) return;
         each_face(names.first, names.second, [&](auto run, bool by_rows) {
           SCOPED_TRACE(testing::Message()
-                       << uplo << trans << (by_rows ? " by rows" : " by columns") << hermitian);
+                       << uplo << trans << (by_rows ? " by rows" : " by columns") << adjoint);
           Stored<T> a = operand<T>(trans, n, k, by_rows, 1), b = operand<T>(trans, n, k, by_rows, 2),
                     c{n, n, by_rows};
           c.triangle = uplo;
           c.fill(3);
           // The row i of op(A) times the row j of op(B), the latter conjugated for Hermitian results.
           const auto dot = [&](const Stored<T>& p, const Stored<T>& q, int i, int j) {
-            const char op = trans == 'N' ? 'N' : hermitian ? 'C' : 'T';
+            const char op = trans == 'N' ? 'N' : adjoint ? 'C' : 'T';
             return sum_of(k, [&](int l) {
               const Wide other = q.op(op, j, l);
-              return p.op(op, i, l) * (hermitian ? std::conj(other) : other);
+              return p.op(op, i, l) * (adjoint ? std::conj(other) : other);
             });
           };
-          const Wide f = wide(factor), g = hermitian ? std::conj(f) : f;
+          const Wide f = wide(factor), g = adjoint ? std::conj(f) : f;
           const auto sum = [&](int i, int j) {
             return two() ? f * dot(a, b, i, j) + g * dot(b, a, i, j) : f * dot(a, a, i, j);
           };
-          const auto expected = this->model(c, 1, sum, wide(scale), hermitian);
+          const auto expected = this->model(c, 1, sum, wide(scale), adjoint);
           if constexpr (two())
             run(Letter{uplo}, Letter{trans}, n, k, factor, a.data.data(), a.ld, b.data.data(), b.ld, scale,
                 c.data.data(), c.ld);
@@ -192,7 +191,7 @@ TYPED_TEST(Level3, RankKUpdates) {
 TYPED_TEST(Level3, TriangularProductsAndSolves) {
   using T = TypeParam;
   const int m = 6, n = 5;
-  const T alpha = number<T>(2), inverse = number<T>(0.5);
+  const T twice = number<T>(2), inverse = number<T>(0.5);
   for (char side : {'L', 'R'})
     for (char uplo : {'U', 'L'})
       for (char trans : {'N', 'T', 'C'})
@@ -215,9 +214,9 @@ TYPED_TEST(Level3, TriangularProductsAndSolves) {
                                      : start.at(i, l) * a.op(trans, l, j, diag);
                 });
               };
-              const Stored<T> result = this->model(start, wide(alpha), sum, 0);
+              const Stored<T> result = this->model(start, wide(twice), sum, 0);
               Stored<T> b = solve ? result : start;
-              run(Letter{side}, Letter{uplo}, Letter{trans}, Letter{diag}, m, n, solve ? inverse : alpha,
+              run(Letter{side}, Letter{uplo}, Letter{trans}, Letter{diag}, m, n, solve ? inverse : twice,
                   a.data.data(), a.ld, b.data.data(), b.ld);
               EXPECT_TRUE(matches(b.data, (solve ? start : result).data));
             });

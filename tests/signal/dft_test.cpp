@@ -151,10 +151,10 @@ TYPED_TEST(Dft, PlaceAlignmentAndBufferDoNotShow) {
 // An impulse gives the same number everywhere; a shift turns every number by its own angle; sums stay sums;
 // the energy stays.
 TYPED_TEST(Dft, Identities) {
-  using T = typename TypeParam::T;
+  using Element = typename TypeParam::T;
   for (int n : {12, 17, 45, 60, 101, 302, 1000, 1009, 4096, 30030}) {
     this->make(n, 8);
-    const long double bound = 3 * error_bound<T>(1.6L, n);
+    const long double bound = 3 * error_bound<Element>(1.6L, n);
     Sequence impulse((size_t)n);
     impulse[0] = 1;
     EXPECT_LE(relative_error(this->transform(n, forward_sign, impulse), Sequence((size_t)n, 1)), bound);
@@ -178,14 +178,14 @@ TYPED_TEST(Dft, Identities) {
 
 TYPED_TEST(Dft, Statuses) {
   using K = TypeParam;
-  VspsDFTSpec* spec = nullptr;
+  VspsDFTSpec* none = nullptr;
   EXPECT_EQ(call(K::make_alloc, nullptr, 8, 8, 0), VSP_NULL_POINTER);
-  for (int n : {0, -5}) EXPECT_EQ(call(K::make_alloc, &spec, n, 3, 0), VSP_SIZE_ERROR);
-  for (int flag : {0, 3, 5, 16}) EXPECT_EQ(call(K::make_alloc, &spec, 30, flag, 0), VSP_FFT_FLAG_ERROR);
+  for (int n : {0, -5}) EXPECT_EQ(call(K::make_alloc, &none, n, 3, 0), VSP_SIZE_ERROR);
+  for (int flag : {0, 3, 5, 16}) EXPECT_EQ(call(K::make_alloc, &none, 30, flag, 0), VSP_FFT_FLAG_ERROR);
   // too long for a plan, and a prime too long for the convolution
-  EXPECT_EQ(call(K::make_alloc, &spec, 0x8000000 + 3, 8, 0), VSP_SIZE_ERROR);
-  EXPECT_EQ(call(K::make_alloc, &spec, 0x8000000 - 39, 8, 0), VSP_SIZE_ERROR);
-  EXPECT_EQ(spec, nullptr);
+  EXPECT_EQ(call(K::make_alloc, &none, 0x8000000 + 3, 8, 0), VSP_SIZE_ERROR);
+  EXPECT_EQ(call(K::make_alloc, &none, 0x8000000 - 39, 8, 0), VSP_SIZE_ERROR);
+  EXPECT_EQ(none, nullptr);
   EXPECT_EQ(this->memory.live(), 0);
   EXPECT_EQ(call(K::release, nullptr), VSP_NULL_POINTER);
   int size;
