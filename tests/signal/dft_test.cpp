@@ -219,15 +219,15 @@ TYPED_TEST(Dft, EveryRefusedAllocationIsTold) {
   for (int n : {7, 18, 60, 75, 64, 4096, 101, 202, 1009, 2018}) {
     for (int k = 1;; ++k) {
       this->memory.refuse_at = k;
-      VspsDFTSpec* spec = nullptr;
-      const int status = call(TypeParam::make_alloc, &spec, n, 8, 0);
+      VspsDFTSpec* made = nullptr;
+      const int status = call(TypeParam::make_alloc, &made, n, 8, 0);
       if (this->memory.refuse_at > 0) {
         ASSERT_EQ(status, 0);
-        this->spec = spec;
+        this->spec = made;
         break;
       }
       EXPECT_EQ(status, VSP_NO_MEMORY) << n << ", request " << k;
-      EXPECT_EQ(spec, nullptr);
+      EXPECT_EQ(made, nullptr);
       EXPECT_EQ(this->memory.live(), 0) << n << ", request " << k;
     }
     const auto data = TypeParam::arrays(n, 0);
