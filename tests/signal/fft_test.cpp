@@ -89,16 +89,16 @@ Places places_of(int n, int k) {
 
 // The bound holds for every order, both directions and every flag.
 TYPED_TEST(Fft, AgreesWithLongDouble) {
-  using T = typename TypeParam::T;
+  using Element = typename TypeParam::T;
   for (int order = 0; order <= 18; ++order) {
     const int n = 1 << order, flag = flags[order % 4];
     this->make(order, flag);
     const Sequence x = noise(n, unsigned(order), TypeParam::is_real);
     Sequence spectrum = wide_fft(x, forward_sign);
     for (Wide& z : spectrum) z *= scale_of(flag, forward_sign, n);
-    EXPECT_LE(relative_error(this->transform(n, forward_sign, x), spectrum), error_bound<T>(0.6L, n))
+    EXPECT_LE(relative_error(this->transform(n, forward_sign, x), spectrum), error_bound<Element>(0.6L, n))
         << "forward, order " << order;
-    // a spectrum that is exact in T, of a real sequence if need be
+    // a spectrum that is exact in Element, of a real sequence if need be
     Sequence given = noise(n, 77);
     if (TypeParam::is_real)
       for (int k = 0; k <= n / 2; ++k) {
@@ -108,7 +108,7 @@ TYPED_TEST(Fft, AgreesWithLongDouble) {
       }
     Sequence back = wide_fft(given, inverse_sign);
     for (Wide& z : back) z *= scale_of(flag, inverse_sign, n);
-    EXPECT_LE(relative_error(this->transform(n, inverse_sign, given), back), error_bound<T>(0.6L, n))
+    EXPECT_LE(relative_error(this->transform(n, inverse_sign, given), back), error_bound<Element>(0.6L, n))
         << "inverse, order " << order;
     this->release();
   }
@@ -117,18 +117,18 @@ TYPED_TEST(Fft, AgreesWithLongDouble) {
 // Above what the table of cuts names in full; the last order has rows that are cut themselves. A few
 // impulses, and some numbers of the result, keep the reference small.
 TYPED_TEST(Fft, LargestOrders) {
-  using T = typename TypeParam::T;
+  using Element = typename TypeParam::T;
   std::vector<int> orders = {21};
-  if (!TypeParam::is_real) orders = {22, sizeof(T) == 4 ? 25 : 23};
+  if (!TypeParam::is_real) orders = {22, sizeof(Element) == 4 ? 25 : 23};
   for (int order : orders) {
     const int n = 1 << order;
     this->make(order, 8);
-    const Arrays<T> data = TypeParam::arrays(n, 0);
-    for (const auto& part : data.parts) memset(part->data(), 0, size_t(part->size()) * sizeof(T));
+    const Arrays<Element> data = TypeParam::arrays(n, 0);
+    for (const auto& part : data.parts) memset(part->data(), 0, size_t(part->size()) * sizeof(Element));
     const int places[] = {1, n / 5, n / 2 + 6, n - 9};
     const int reals =
         data.parts.size() == 1 && !TypeParam::is_real ? 2 : 1;  // of one number in the first array
-    for (int j : places) data[0][j * reals] = T(1 + j % 3);
+    for (int j : places) data[0][j * reals] = Element(1 + j % 3);
     ASSERT_EQ(TypeParam::run(forward_sign, &data, &data, this->spec, nullptr), 0);
     Sequence got, expected;
     for (int k = 1; k < n / 2; k += n / 4096 + 1) {
@@ -142,7 +142,7 @@ TYPED_TEST(Fft, LargestOrders) {
       for (int j : places)
         expected.back() += (long double)(1 + j % 3) * root(forward_sign, (long long)j * k, n);
     }
-    EXPECT_LE(relative_error(got, expected), error_bound<T>(0.6L, n)) << order;
+    EXPECT_LE(relative_error(got, expected), error_bound<Element>(0.6L, n)) << order;
     this->release();
   }
 }
@@ -224,20 +224,20 @@ TYPED_TEST(Fft, Statuses) {
 
   const Guarded<int> room(8192);
   for (int& word : room) word = -1;
-  VspsFFTSpec* spec = nullptr;
+  VspsFFTSpec* made = nullptr;
   EXPECT_EQ(call(K::make, nullptr, 4, 8, 0, room.data(), nullptr), VSP_NULL_POINTER);
   for (int order : {-1, most + 1, 31})
-    EXPECT_EQ(call(K::make, &spec, order, 8, 0, room.data(), nullptr), VSP_FFT_ORDER_ERROR);
-  EXPECT_EQ(call(K::make, &spec, 4, 3, 0, nullptr, nullptr), VSP_NULL_POINTER);
-  EXPECT_EQ(call(K::make, &spec, 4, 3, 0, room.data(), nullptr), VSP_FFT_FLAG_ERROR);
+    EXPECT_EQ(call(K::make, &made, order, 8, 0, room.data(), nullptr), VSP_FFT_ORDER_ERROR);
+  EXPECT_EQ(call(K::make, &made, 4, 3, 0, nullptr, nullptr), VSP_NULL_POINTER);
+  EXPECT_EQ(call(K::make, &made, 4, 3, 0, room.data(), nullptr), VSP_FFT_FLAG_ERROR);
   const auto at = (reinterpret_cast<uintptr_t>(room.data()) + 31) & ~uintptr_t(31);
   EXPECT_EQ(*reinterpret_cast<int*>(at), 0);
-  EXPECT_EQ(call(K::make, &spec, 11, 8, 0, room.data(), nullptr), VSP_NULL_POINTER);
-  EXPECT_EQ(spec, nullptr);
-  EXPECT_EQ(call(K::make_alloc, &spec, 4, 3, 0), VSP_FFT_FLAG_ERROR);
-  EXPECT_EQ(call(K::make_alloc, &spec, -1, 8, 0), VSP_FFT_ORDER_ERROR);
+  EXPECT_EQ(call(K::make, &made, 11, 8, 0, room.data(), nullptr), VSP_NULL_POINTER);
+  EXPECT_EQ(made, nullptr);
+  EXPECT_EQ(call(K::make_alloc, &made, 4, 3, 0), VSP_FFT_FLAG_ERROR);
+  EXPECT_EQ(call(K::make_alloc, &made, -1, 8, 0), VSP_FFT_ORDER_ERROR);
   EXPECT_EQ(call(K::make_alloc, nullptr, 4, 8, 0), VSP_NULL_POINTER);
-  EXPECT_EQ(spec, nullptr);
+  EXPECT_EQ(made, nullptr);
   EXPECT_EQ(call(K::release, nullptr), VSP_NULL_POINTER);
   EXPECT_EQ(call(K::buf_size, nullptr, &a), VSP_NULL_POINTER);
 
@@ -271,15 +271,15 @@ TYPED_TEST(Fft, EveryRefusedAllocationIsTold) {
   for (int order : {3, 6, 12, 17}) {
     for (int k = 1;; ++k) {
       this->memory.refuse_at = k;
-      VspsFFTSpec* spec = nullptr;
-      const int status = call(TypeParam::make_alloc, &spec, order, 8, 0);
+      VspsFFTSpec* made = nullptr;
+      const int status = call(TypeParam::make_alloc, &made, order, 8, 0);
       if (this->memory.refuse_at > 0) {  // fewer requests than that
         ASSERT_EQ(status, 0);
-        this->spec = spec;
+        this->spec = made;
         break;
       }
       EXPECT_EQ(status, VSP_NO_MEMORY) << order << ", request " << k;
-      EXPECT_EQ(spec, nullptr);
+      EXPECT_EQ(made, nullptr);
       EXPECT_EQ(this->memory.live(), 0);
     }
     const auto data = TypeParam::arrays(1 << order, 0);
